@@ -1,0 +1,32 @@
+# The few ways in which this project makes a target: a layer, a test of a layer.
+
+# Warnings are errors, on every target of our own.
+add_library(quillon_options INTERFACE)
+target_compile_options(quillon_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion -Werror)
+if(QUILLON_SANITIZE)
+    target_compile_options(quillon_options INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(quillon_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# quillon_layer(NAME SOURCES ... USES ...): one folder of src/ as a static library.
+# A layer links only the layers below it; the include test holds the same rule for the headers.
+function(quillon_layer name)
+    cmake_parse_arguments(LAYER "" "" "SOURCES;USES" ${ARGN})
+    add_library(quillon_${name} STATIC ${LAYER_SOURCES})
+    target_include_directories(quillon_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+    target_link_libraries(quillon_${name} PRIVATE quillon_options)
+    foreach(below IN LISTS LAYER_USES)
+        target_link_libraries(quillon_${name} PUBLIC quillon_${below})
+    endforeach()
+endfunction()
+
+# quillon_test(NAME SOURCES ... USES ...): one GoogleTest binary, one CTest entry for each of its tests.
+function(quillon_test name)
+    cmake_parse_arguments(TEST "" "" "SOURCES;USES" ${ARGN})
+    add_executable(${name} ${TEST_SOURCES})
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    target_link_libraries(${name} PRIVATE quillon_options GTest::gtest_main ${TEST_USES})
+    gtest_discover_tests(${name} PROPERTIES LABELS core DISCOVERY_TIMEOUT 60)
+endfunction()

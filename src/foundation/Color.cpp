@@ -1,0 +1,48 @@
+#include "foundation/Color.h"
+
+#include <cmath>
+
+namespace quillon {
+
+namespace {
+
+double encodedFromLinear(double value) {
+    const double magnitude = std::abs(value);
+    const double encoded =
+        magnitude <= 0.0031308 ? 12.92 * magnitude : 1.055 * std::pow(magnitude, 1 / 2.4) - 0.055;
+    return std::copysign(encoded, value);
+}
+
+double linearFromEncoded(double value) {
+    const double magnitude = std::abs(value);
+    const double linear =
+        magnitude <= 0.04045 ? magnitude / 12.92 : std::pow((magnitude + 0.055) / 1.055, 2.4);
+    return std::copysign(linear, value);
+}
+
+} // namespace
+
+std::optional<NSColor> NSColor::colorUsingColorSpace(ColorSpace space) const {
+    if (space == m_colorSpace) {
+        return *this;
+    }
+    if (m_colorSpace == ColorSpace::device || space == ColorSpace::device) {
+        return std::nullopt;
+    }
+    const auto convert = space == ColorSpace::sRGB ? encodedFromLinear : linearFromEncoded;
+    return NSColor(space, {convert(m_components.red), convert(m_components.green),
+                           convert(m_components.blue), m_components.alpha});
+}
+
+NSColor::Components Color::resolved() const {
+    return m_platformColor.colorUsingColorSpace(ColorSpace::sRGB)
+        .value_or(m_platformColor)
+        .getRedGreenBlueAlpha();
+}
+
+Color Color::opacity(double factor) const {
+    const auto own = m_platformColor.getRedGreenBlueAlpha();
+    return {m_platformColor.colorSpace(), own.red, own.green, own.blue, own.alpha * factor};
+}
+
+} // namespace quillon

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "foundation/Geometry.h"
+#include "platform/GraphicsContext.h"
+
+#include <memory>
+
+namespace quillon {
+
+/// A picture kept in memory that is painted once and drawn often. It starts transparent. Its
+/// origin is that of the view for which it was made.
+class Bitmap {
+public:
+    virtual ~Bitmap() = default;
+
+    /// In points.
+    virtual CGSize size() const = 0;
+    /// Device pixels to a point.
+    virtual CGFloat scale() const = 0;
+
+    /// Calls `body` with a context that paints into the bitmap and nowhere but in `clip`, which is
+    /// widened to whole device pixels.
+    template <typename Body>
+    void paint(const CGRect& clip, Body&& body) {
+        body(beginPainting(clip));
+        endPainting();
+    }
+
+protected:
+    virtual GraphicsContext& beginPainting(const CGRect& clip) = 0;
+    virtual void endPainting() = 0;
+};
+
+/// What painting needs besides a context.
+class Graphics {
+public:
+    virtual ~Graphics() = default;
+
+    virtual std::unique_ptr<Bitmap> makeBitmap(CGSize size, CGFloat scale) = 0;
+    /// Where the ink of a text falls, with its top leading corner at the origin. In points.
+    virtual CGRect inkBounds(const Text& text) = 0;
+};
+
+} // namespace quillon

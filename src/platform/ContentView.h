@@ -1,0 +1,78 @@
+#pragma once
+
+#include "foundation/Binding.h"
+#include "foundation/Color.h"
+#include "foundation/Geometry.h"
+#include "platform/Damage.h"
+#include "platform/GraphicsContext.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <utility>
+
+namespace quillon {
+
+/// A single-line edit field with an empty placeholder that stands in a view, described as a value.
+/// The host makes a real field with input-method support of it.
+struct TextField {
+    /// Another number is another field: the old one goes, a new one appears.
+    int identity = 0;
+    /// Where its centre stands, in view coordinates.
+    CGPoint center;
+    /// In points; the height is the field's natural one.
+    CGFloat width = 0;
+    CGFloat fontSize = 0;
+    Color textColor = Color::black;
+    Binding<std::string> text;
+    /// Written by the host when the keyboard comes or goes, read by it to give the keyboard.
+    Binding<bool> isFocused;
+    /// Called once, when the field has appeared.
+    std::function<void()> onAppear;
+    /// Return was pressed.
+    std::function<void()> onSubmit;
+    /// Escape was pressed.
+    std::function<void()> onExitCommand;
+};
+
+/// The root view of a window: state that paints itself, takes the pointer and may hold a text
+/// field. Coordinates are view coordinates, in points.
+///
+/// One direction: an event changes state, the view asks for an update, and one turn later the host
+/// takes the damage, paints it, and brings the text field up to date.
+class ContentView {
+public:
+    virtual ~ContentView() = default;
+
+    /// The host hands in how it wants to be asked for an update; it coalesces requests.
+    void setUpdateRequest(std::function<void()> request) { m_updateRequest = std::move(request); }
+
+    /// The view's size, and the device pixels to a point.
+    virtual void layout(CGSize size, CGFloat scale) = 0;
+
+    /// A press, moves and a release of the primary button. A press that the view does not take is
+    /// followed by moves and a release all the same.
+    virtual void mouseDown(CGPoint location) = 0;
+    virtual void mouseDragged(CGPoint location) = 0;
+    virtual void mouseUp(CGPoint location) = 0;
+
+    /// Where the picture has changed since the last call.
+    virtual Damage takeDamage() = 0;
+    /// Paints what stands in `rect`, over full transparency. `rect` is made of whole device pixels
+    /// and clips the context.
+    virtual void paint(GraphicsContext& context, const CGRect& rect) = 0;
+
+    virtual std::optional<TextField> textField() { return std::nullopt; }
+
+protected:
+    void setNeedsUpdate() const {
+        if (m_updateRequest) {
+            m_updateRequest();
+        }
+    }
+
+private:
+    std::function<void()> m_updateRequest;
+};
+
+} // namespace quillon

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <functional>
+
+namespace quillon {
+
+/// Runs work later on the one thread of the system.
+///
+/// Work handed in with `async` runs in a later turn of the loop, in the order in which it was
+/// handed in; work of `asyncAfter` runs once its delay is over, earlier deadlines first. Nothing
+/// runs inside the call itself. Work cannot be taken back. Work that is pending when the queue ends
+/// is dropped.
+class MainQueue {
+public:
+    using Work = std::function<void()>;
+
+    virtual ~MainQueue() = default;
+
+    virtual void async(Work work) = 0;
+    /// `seconds` from now; zero or less means the next turn.
+    virtual void asyncAfter(double seconds, Work work) = 0;
+    /// Seconds on a steady clock; only differences carry meaning.
+    virtual double now() const = 0;
+};
+
+} // namespace quillon

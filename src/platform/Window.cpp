@@ -1,0 +1,51 @@
+#include "platform/Window.h"
+
+#include "platform/Host.h"
+
+namespace quillon {
+
+Window::Window(const CGRect& contentRect, WindowStyleMask styleMask, BackingStoreType backing,
+               bool defersCreation)
+    : m_styleMask(styleMask)
+    , m_backing(backing)
+    , m_defersCreation(defersCreation)
+    , m_frame(contentRect)
+    , m_backend(Host::current().windows().makeWindow(*this)) {
+    Host::current().application().addWindow(*this);
+}
+
+Window::~Window() {
+    Host::current().application().removeWindow(*this);
+}
+
+void Window::setIgnoresMouseEvents(bool ignores) {
+    m_ignoresMouseEvents = ignores;
+    m_backend->setIgnoresMouseEvents(ignores);
+}
+
+void Window::setFrame(const CGRect& frame, bool /*display*/, bool /*animate*/) {
+    m_frame = frame;
+    m_backend->setFrame(frame);
+}
+
+void Window::setContentView(std::shared_ptr<HostingView> view) {
+    m_contentView = std::move(view);
+    m_backend->setContentView(m_contentView);
+}
+
+void Window::orderFrontRegardless() {
+    m_isVisible = true;
+    m_backend->orderFrontRegardless();
+}
+
+void Window::makeKeyAndOrderFront() {
+    m_isVisible = true;
+    m_backend->makeKeyAndOrderFront();
+}
+
+void Window::orderOut() {
+    m_isVisible = false;
+    m_backend->orderOut();
+}
+
+} // namespace quillon

@@ -1,0 +1,150 @@
+#pragma once
+
+#include "foundation/Color.h"
+#include "foundation/Geometry.h"
+#include "platform/ContentView.h"
+
+#include <cstdint>
+#include <memory>
+
+#include <string>
+#include <utility>
+
+namespace quillon {
+
+enum class WindowStyleMask : std::uint32_t { borderless = 0 };
+enum class BackingStoreType { buffered = 2 };
+
+/// The level of every window of the system.
+inline constexpr int NSFloatingWindowLevel = 3;
+
+/// Bits of a collection behaviour.
+namespace NSWindowCollectionBehavior {
+inline constexpr std::uint32_t canJoinAllSpaces = 0x1;
+inline constexpr std::uint32_t ignoresCycle = 0x40;
+inline constexpr std::uint32_t fullScreenAuxiliary = 0x100;
+} // namespace NSWindowCollectionBehavior
+
+/// Bits of an autoresizing mask.
+namespace NSAutoresizingMask {
+inline constexpr std::uint32_t widthSizable = 0x2;
+inline constexpr std::uint32_t heightSizable = 0x10;
+} // namespace NSAutoresizingMask
+
+/// A view that hosts a root view, its type erased, and gives it to a window as its content.
+struct HostingView {
+    explicit HostingView(std::unique_ptr<ContentView> root)
+        : rootView(std::move(root)) {}
+
+    std::unique_ptr<ContentView> rootView;
+    CGRect frame;
+    std::uint32_t autoresizingMask = 0;
+};
+
+class Window;
+
+/// The host's side of one window. Frames are in global coordinates, in points.
+class WindowBackend {
+public:
+    virtual ~WindowBackend() = default;
+
+    virtual void setFrame(const CGRect& frame) = 0;
+    virtual void setIgnoresMouseEvents(bool ignores) = 0;
+    virtual void setContentView(const std::shared_ptr<HostingView>& view) = 0;
+    /// In front of the other windows, without taking the keyboard.
+    virtual void orderFrontRegardless() = 0;
+    /// In front, and with the keyboard.
+    virtual void makeKeyAndOrderFront() = 0;
+    virtual void orderOut() = 0;
+};
+
+/// The windows of the program, as the host makes them.
+class Windows {
+public:
+    virtual ~Windows() = default;
+
+    /// `window` outlives the backend; its fixed properties are read when it first comes on screen.
+    virtual std::unique_ptr<WindowBackend> makeWindow(Window& window) = 0;
+};
+
+/// A window of the system. Its properties are kept here, so that they can be read back, and handed
+/// on to the host, which makes them true.
+///
+/// A window that ignores the mouse lets every click through to what lies below it. It does not keep
+/// the keyboard either: the keyboard goes back to the window that had it, unless a text field is
+/// being typed in.
+class Window {
+public:
+    Window(const CGRect& contentRect, WindowStyleMask styleMask, BackingStoreType backing,
+           bool defersCreation);
+    virtual ~Window();
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+
+    virtual bool canBecomeKeyWindow() const { return styleMask() != WindowStyleMask::borderless; }
+
+    WindowStyleMask styleMask() const { return m_styleMask; }
+    BackingStoreType backingType() const { return m_backing; }
+    bool defersCreation() const { return m_defersCreation; }
+
+    /// Tells one kind of window from another, in the list of all windows.
+    const std::string& identifier() const { return m_identifier; }
+    void setIdentifier(std::string identifier) { m_identifier = std::move(identifier); }
+    const std::string& title() const { return m_title; }
+    void setTitle(std::string title) { m_title = std::move(title); }
+
+    bool isOpaque() const { return m_isOpaque; }
+    void setOpaque(bool opaque) { m_isOpaque = opaque; }
+    const Color& backgroundColor() const { return m_backgroundColor; }
+    void setBackgroundColor(const Color& color) { m_backgroundColor = color; }
+    int level() const { return m_level; }
+    void setLevel(int level) { m_level = level; }
+    std::uint32_t collectionBehavior() const { return m_collectionBehavior; }
+    void setCollectionBehavior(std::uint32_t behavior) { m_collectionBehavior = behavior; }
+    bool hasShadow() const { return m_hasShadow; }
+    void setHasShadow(bool hasShadow) { m_hasShadow = hasShadow; }
+    bool isReleasedWhenClosed() const { return m_isReleasedWhenClosed; }
+    void setReleasedWhenClosed(bool released) { m_isReleasedWhenClosed = released; }
+    bool isExcludedFromWindowsMenu() const { return m_isExcludedFromWindowsMenu; }
+    void setExcludedFromWindowsMenu(bool excluded) { m_isExcludedFromWindowsMenu = excluded; }
+    bool isMovable() const { return m_isMovable; }
+    void setMovable(bool movable) { m_isMovable = movable; }
+
+    bool ignoresMouseEvents() const { return m_ignoresMouseEvents; }
+    void setIgnoresMouseEvents(bool ignores);
+
+    const CGRect& frame() const { return m_frame; }
+    void setFrame(const CGRect& frame, bool display, bool animate = false);
+    /// The area of the content in the window's own coordinates.
+    CGRect contentBounds() const { return {0, 0, m_frame.width, m_frame.height}; }
+
+    const std::shared_ptr<HostingView>& contentView() const { return m_contentView; }
+    void setContentView(std::shared_ptr<HostingView> view);
+
+    bool isVisible() const { return m_isVisible; }
+    void orderFrontRegardless();
+    void makeKeyAndOrderFront();
+    void orderOut();
+
+private:
+    WindowStyleMask m_styleMask;
+    BackingStoreType m_backing;
+    bool m_defersCreation;
+    CGRect m_frame;
+    std::string m_identifier;
+    std::string m_title;
+    bool m_isOpaque = true;
+    Color m_backgroundColor = Color::white;
+    int m_level = 0;
+    std::uint32_t m_collectionBehavior = 0;
+    bool m_hasShadow = true;
+    bool m_isReleasedWhenClosed = true;
+    bool m_isExcludedFromWindowsMenu = false;
+    bool m_isMovable = true;
+    bool m_ignoresMouseEvents = false;
+    bool m_isVisible = false;
+    std::shared_ptr<HostingView> m_contentView;
+    std::unique_ptr<WindowBackend> m_backend;
+};
+
+} // namespace quillon

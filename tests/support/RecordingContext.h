@@ -1,0 +1,131 @@
+#pragma once
+
+#include "platform/Bitmap.h"
+#include "platform/GraphicsContext.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace quillon::test {
+
+/// One thing that was drawn, with the state in force.
+struct Drawing {
+    enum class Kind { fill, stroke, text, clear, bitmap };
+
+    Kind kind;
+    Path path;
+    Color color = Color::clear;
+    StrokeStyle style;
+    Text text;
+    CGPoint at;
+    Anchor anchor = Anchor::topLeading;
+    CGRect rect;
+    BlendMode blendMode = BlendMode::normal;
+    double opacity = 1;
+    /// How many layers deep it was drawn, and the blend mode with which the innermost of them is
+    /// received.
+    int depth = 0;
+    BlendMode receivedWith = BlendMode::normal;
+};
+
+/// A context that draws nothing and remembers everything.
+class RecordingContext : public GraphicsContext {
+public:
+    CGRect clipBounds() const override { return clip; }
+    void setBlendMode(BlendMode mode) override { m_states.back().blendMode = mode; }
+    void setOpacity(double opacity) override { m_states.back().opacity = opacity; }
+
+    void fill(const Path& path, const Color& color) override {
+        auto& drawing = record(Drawing::Kind::fill);
+        drawing.path = path;
+        drawing.color = color;
+    }
+    void stroke(const Path& path, const Color& color, const StrokeStyle& style) override {
+        auto& drawing = record(Drawing::Kind::stroke);
+        drawing.path = path;
+        drawing.color = color;
+        drawing.style = style;
+    }
+    void drawText(const Text& text, CGPoint at, Anchor anchor) override {
+        auto& drawing = record(Drawing::Kind::text);
+        drawing.text = text;
+        drawing.at = at;
+        drawing.anchor = anchor;
+    }
+    void clear(const CGRect& rect) override { record(Drawing::Kind::clear).rect = rect; }
+    void draw(const Bitmap&, const CGRect& rect) override {
+        record(Drawing::Kind::bitmap).rect = rect;
+    }
+
+    CGRect clip{-1e6, -1e6, 2e6, 2e6};
+    std::vector<Drawing> drawings;
+
+protected:
+    GraphicsContext& beginLayer() override {
+        m_states.emplace_back();
+        return *this;
+    }
+    void endLayer() override { m_states.pop_back(); }
+
+private:
+    struct State {
+        BlendMode blendMode = BlendMode::normal;
+        double opacity = 1;
+    };
+
+    Drawing& record(Drawing::Kind kind) {
+        auto& drawing = drawings.emplace_back();
+        drawing.kind = kind;
+        drawing.blendMode = m_states.back().blendMode;
+        drawing.opacity = m_states.back().opacity;
+        drawing.depth = static_cast<int>(m_states.size()) - 1;
+        if (m_states.size() > 1) {
+            drawing.receivedWith = m_states[m_states.size() - 2].blendMode;
+        }
+        return drawing;
+    }
+
+    std::vector<State> m_states{1};
+};
+
+/// Bitmaps whose contents are the list of what was drawn into them.
+class RecordingGraphics : public Graphics {
+public:
+    class RecordingBitmap : public Bitmap {
+    public:
+        RecordingBitmap(CGSize size, CGFloat scale)
+            : m_size(size)
+            , m_scale(scale) {}
+        CGSize size() const override { return m_size; }
+        CGFloat scale() const override { return m_scale; }
+
+        RecordingContext context;
+
+    protected:
+        GraphicsContext& beginPainting(const CGRect& clip) override {
+            context.clip = clip;
+            return context;
+        }
+        void endPainting() override {}
+
+    private:
+        CGSize m_size;
+        CGFloat m_scale;
+    };
+
+    std::unique_ptr<Bitmap> makeBitmap(CGSize size, CGFloat scale) override {
+        auto bitmap = std::make_unique<RecordingBitmap>(size, scale);
+        lastBitmap = bitmap.get();
+        return bitmap;
+    }
+    /// Half an em for each byte, one em and a quarter high.
+    CGRect inkBounds(const Text& text) override {
+        return {0, 0, 0.5 * text.fontSize * static_cast<CGFloat>(text.string.size()),
+                1.25 * text.fontSize};
+    }
+
+    RecordingBitmap* lastBitmap = nullptr;
+};
+
+} // namespace quillon::test
