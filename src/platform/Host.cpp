@@ -1,7 +1,6 @@
 #include "platform/Host.h"
 
-#include <cstdio>
-#include <cstdlib>
+#include "foundation/FatalError.h"
 
 namespace quillon {
 
@@ -9,17 +8,12 @@ namespace {
 
 Host* installedHost = nullptr;
 
-[[noreturn]] void stop(const char* reason) {
-    std::fprintf(stderr, "quillon-mark: %s\n", reason);
-    std::abort();
-}
-
 } // namespace
 
 Host::Host(const Ports& ports)
     : m_ports(ports) {
     if (installedHost) {
-        stop("a second host was installed");
+        fatalError("a second host was installed");
     }
     installedHost = this;
 }
@@ -33,7 +27,7 @@ Host::~Host() {
 
 Host& Host::current() {
     if (!installedHost) {
-        stop("no host is installed");
+        fatalError("no host is installed");
     }
     return *installedHost;
 }
