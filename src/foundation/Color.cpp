@@ -45,4 +45,15 @@ Color Color::opacity(double factor) const {
     return {m_platformColor.colorSpace(), own.red, own.green, own.blue, own.alpha * factor};
 }
 
+const std::vector<Color>& Color::quickSelectDefaults() {
+    static const std::vector<Color> colors{red, yellow, green, cyan, purple};
+    return colors;
+}
+
+const std::vector<Color>& Color::defaultPalette() {
+    static const std::vector<Color> colors{red,  orange, yellow, green, mint,  teal,  cyan,
+                                           blue, indigo, purple, pink,  brown, white, black};
+    return colors;
+}
+
 } // namespace quillon

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 namespace quillon {
 
@@ -71,6 +72,11 @@ public:
     // and dark alike, legible on both.
     static const Color red, orange, yellow, green, mint, teal, cyan, blue, indigo, purple, pink,
         brown, white, black, clear;
+
+    /// The five colours that the quick choice starts with.
+    static const std::vector<Color>& quickSelectDefaults();
+    /// The fourteen colours of the palette.
+    static const std::vector<Color>& defaultPalette();
 
     friend bool operator==(const Color&, const Color&) = default;
 

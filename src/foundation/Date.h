@@ -9,9 +9,10 @@ struct Date {
     double secondsSinceReferenceDate = 0;
 
     static Date now() {
-        using namespace std::chrono;
-        constexpr sys_days reference = year{2001} / January / 1;
-        return {duration<double>(system_clock::now() - reference).count()};
+        using namespace std::chrono_literals;
+        constexpr std::chrono::sys_days reference = 2001y / 1 / 1;
+        const auto elapsed = std::chrono::system_clock::now() - reference;
+        return {std::chrono::duration<double>(elapsed).count()};
     }
 
     friend auto operator<=>(const Date&, const Date&) = default;
