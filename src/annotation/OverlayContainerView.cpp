@@ -1,0 +1,278 @@
+#include "annotation/OverlayContainerView.h"
+
+#include "annotation/Eraser.h"
+#include "model/NotificationNames.h"
+#include "platform/Host.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+constexpr double kWhiteboardOpacity = 0.9;
+constexpr double kWhiteboardFade = 0.25;
+constexpr double kEraseFade = 0.5;
+constexpr double kAnimationFrame = 1.0 / 60;
+
+/// Where a toolbar that was never placed stands: this far from the right and from the top.
+constexpr CGFloat kToolbarFromRight = 150;
+constexpr CGFloat kToolbarFromTop = 50;
+
+} // namespace
+
+OverlayContainerView::OverlayContainerView(AppSettings& appSettings)
+    : m_appSettings(appSettings)
+    , m_lowerCanvas(canvasConnections())
+    , m_finishedLayer(Host::current().graphics())
+    , m_liveLayer(Host::current().graphics())
+    , m_whiteboard(kWhiteboardFade,
+                   appSettings.isAnnotationEnabled && appSettings.isWhiteboardMode) {
+    m_subscriptions.push_back(m_appSettings.objectWillChange.sink([this] { setNeedsUpdate(); }));
+    m_subscriptions.push_back(m_drawingState.objectWillChange.sink([this] { setNeedsUpdate(); }));
+    observeNotifications();
+}
+
+DrawingCanvasView::Connections OverlayContainerView::canvasConnections() {
+    return {
+        .strokes = m_drawingState.strokes.binding(),
+        .currentStroke = m_drawingState.currentStroke.binding(),
+        .onStrokeCompleted =
+            [this](const DrawingStroke& stroke) {
+                m_drawingState.addStroke(stroke);
+                startAutoEraseTimer(stroke);
+            },
+        .onEraserStroke =
+            [this](const DrawingStroke& stroke) {
+                m_drawingState.strokes.modify(
+                    [&](StrokeList& strokes) { processEraser(stroke, strokes); });
+            },
+        .onTextFieldChanged = [this] { setNeedsUpdate(); },
+    };
+}
+
+void OverlayContainerView::observeNotifications() {
+    auto& center = Host::current().notificationCenter();
+    const auto observe = [&](std::string_view name, auto action) {
+        m_subscriptions.push_back(
+            center.addObserver(name, [action](const Notification&) { action(); }));
+    };
+    observe(NotificationName::clearAnnotations, [this] { clearAllAnnotations(); });
+    observe(NotificationName::undoAnnotation, [this] { m_drawingState.undo(); });
+    observe(NotificationName::redoAnnotation, [this] { m_drawingState.redo(); });
+    for (const auto name : {NotificationName::toolChanged, NotificationName::colorChanged,
+                            NotificationName::lineWidthChanged}) {
+        observe(name, [this] { m_drawingState.cancelCurrentStroke(); });
+    }
+}
+
+void OverlayContainerView::clearAllAnnotations() {
+    ++m_textEditorResetID;
+    bringCanvasesUpToDate();
+    m_drawingState.clearAll();
+}
+
+// The pointer.
+
+DrawingCanvasView* OverlayContainerView::activeCanvas() {
+    if (!m_appSettings.isAnnotationEnabled) {
+        return nullptr;
+    }
+    return m_appSettings.isWhiteboardMode ? upperCanvas() : &m_lowerCanvas;
+}
+
+void OverlayContainerView::bringCanvasesUpToDate() {
+    for (auto* canvas : {&m_lowerCanvas, upperCanvas()}) {
+        if (canvas) {
+            canvas->selectedTool = m_appSettings.selectedTool;
+            canvas->selectedColor = m_appSettings.selectedColor;
+            canvas->lineWidth = m_appSettings.lineWidth;
+            canvas->setTextEditorResetID(m_textEditorResetID);
+        }
+    }
+    m_lowerCanvas.isWhiteboardMode = m_appSettings.isWhiteboardMode;
+}
+
+void OverlayContainerView::mouseDown(CGPoint location) {
+    bringCanvasesUpToDate();
+    m_dragCanvas = activeCanvas();
+    if (m_dragCanvas) {
+        m_dragCanvas->mouseDown(location);
+    }
+}
+
+void OverlayContainerView::mouseDragged(CGPoint location) {
+    bringCanvasesUpToDate();
+    if (m_dragCanvas) {
+        m_dragCanvas->mouseDragged(location);
+    }
+}
+
+void OverlayContainerView::mouseUp(CGPoint location) {
+    bringCanvasesUpToDate();
+    if (m_dragCanvas) {
+        std::exchange(m_dragCanvas, nullptr)->mouseUp(location);
+        setNeedsUpdate();
+    }
+}
+
+// The stack of views.
+
+void OverlayContainerView::bringStackUpToDate() {
+    const bool isAnnotating = m_appSettings.isAnnotationEnabled;
+    const bool hasUpperCanvas = isAnnotating && m_appSettings.isWhiteboardMode;
+    if (hasUpperCanvas && !m_upperCanvas) {
+        m_upperCanvas = std::make_unique<DrawingCanvasView>(canvasConnections());
+        m_upperCanvas->isWhiteboardMode = true;
+        m_upperCanvas->setTextEditorResetID(m_textEditorResetID);
+        m_pendingDamage.add(bounds());
+    } else if (!hasUpperCanvas && m_upperCanvas && m_dragCanvas != upperCanvas()) {
+        // A drag that began there is followed to its end first. What is being typed there is
+        // kept, as with any other loss of the keyboard.
+        m_upperCanvas->setTextFieldFocused(false);
+        m_upperCanvas.reset();
+        m_pendingDamage.add(bounds());
+    }
+    m_whiteboard.setVisible(hasUpperCanvas, Host::current().mainQueue().now());
+
+    const bool showsToolbar = isAnnotating && m_appSettings.showFloatingToolbar;
+    if (showsToolbar && !m_isToolbarVisible) {
+        placeToolbar();
+    }
+    m_isToolbarVisible = showsToolbar;
+    bringCanvasesUpToDate();
+}
+
+void OverlayContainerView::layout(CGSize size, CGFloat scale) {
+    m_size = size;
+    m_finishedLayer.layout(size, scale);
+    m_pendingDamage.add(bounds());
+    setNeedsUpdate();
+}
+
+Damage OverlayContainerView::takeDamage() {
+    bringStackUpToDate();
+    const double now = Host::current().mainQueue().now();
+    Damage damage = std::exchange(m_pendingDamage, {});
+    if (const double opacity = m_whiteboard.opacity(now); opacity != m_whiteboardOpacity) {
+        m_whiteboardOpacity = opacity;
+        damage.add(bounds());
+    }
+    damage.add(m_finishedLayer.update(m_drawingState.strokes, fadingStrokes(now)));
+    damage.add(m_liveLayer.update(m_drawingState.currentStroke));
+    keepAnimating(now);
+    return damage;
+}
+
+void OverlayContainerView::paint(GraphicsContext& context, const CGRect& rect) {
+    if (m_whiteboardOpacity > 0) {
+        Path sheet;
+        sheet.addRect(rect);
+        context.fill(sheet, Color::white.opacity(kWhiteboardOpacity * m_whiteboardOpacity));
+    }
+    const int canvasCount = m_upperCanvas ? 2 : 1;
+    for (int canvas = 0; canvas < canvasCount; ++canvas) {
+        m_finishedLayer.draw(context, rect);
+        m_liveLayer.draw(context, m_drawingState.currentStroke);
+    }
+}
+
+std::optional<TextField> OverlayContainerView::textField() {
+    if (m_upperCanvas) {
+        if (auto field = m_upperCanvas->textField()) {
+            return field;
+        }
+    }
+    return m_lowerCanvas.textField();
+}
+
+// The toolbar's place.
+
+void OverlayContainerView::placeToolbar() {
+    const ToolbarPosition saved = m_appSettings.toolbarPosition;
+    m_toolbarPosition = {saved.x, saved.y};
+    if (saved == ToolbarPosition::defaultPosition) {
+        m_toolbarPosition = {m_size.width - kToolbarFromRight, kToolbarFromTop};
+    }
+}
+
+void OverlayContainerView::toolbarMouseDown(CGPoint location) {
+    if (const auto drag = m_toolbarGesture.pressed(location)) {
+        toolbarDragChanged(*drag);
+    }
+}
+
+void OverlayContainerView::toolbarMouseDragged(CGPoint location) {
+    if (const auto drag = m_toolbarGesture.moved(location)) {
+        toolbarDragChanged(*drag);
+    }
+}
+
+void OverlayContainerView::toolbarMouseUp(CGPoint location) {
+    if (m_toolbarGesture.released(location)) {
+        m_isDraggingToolbar = false;
+        m_appSettings.toolbarPosition = ToolbarPosition{m_toolbarPosition.x, m_toolbarPosition.y};
+    }
+}
+
+void OverlayContainerView::toolbarDragChanged(const DragValue& drag) {
+    m_isDraggingToolbar = true;
+    m_toolbarPosition = drag.location;
+    setNeedsUpdate();
+}
+
+// Auto-erase.
+
+void OverlayContainerView::startAutoEraseTimer(const DrawingStroke& stroke) {
+    const auto seconds = duration(m_appSettings.autoEraseTimer.get());
+    if (seconds) {
+        Host::current().mainQueue().asyncAfter(
+            *seconds, m_lifetime.guard([this, id = stroke.id()] { autoErase(id); }));
+    }
+}
+
+void OverlayContainerView::autoErase(const UUID& id) {
+    const StrokeList& strokes = m_drawingState.strokes;
+    const double now = Host::current().mainQueue().now();
+    for (std::size_t index = 0; index < strokes.size(); ++index) {
+        if (strokes[index].id() == id) {
+            m_fades.push_back({strokes.ref(index), now});
+        }
+    }
+    std::ranges::stable_sort(m_fades, {}, [](const Fade& fade) { return fade.stroke->order(); });
+    m_drawingState.removeStroke(id);
+}
+
+FadingStrokes OverlayContainerView::fadingStrokes(double now) {
+    if (m_fades.empty()) {
+        return {};
+    }
+    const StrokeList& strokes = m_drawingState.strokes;
+    std::erase_if(m_fades, [&](const Fade& fade) {
+        // An undo may have brought the stroke back in the meantime.
+        const bool isBack = std::ranges::any_of(strokes, [&](const DrawingStroke& stroke) {
+            return stroke.id() == fade.stroke->stroke().id();
+        });
+        return isBack || now - fade.start >= kEraseFade;
+    });
+    FadingStrokes fading;
+    for (const auto& fade : m_fades) {
+        const double progress = TimingCurve::easeOut.progressAt((now - fade.start) / kEraseFade);
+        fading.emplace_back(fade.stroke, 1 - progress);
+    }
+    return fading;
+}
+
+void OverlayContainerView::keepAnimating(double now) {
+    const bool isMoving = !m_fades.empty() || m_whiteboard.isRunning(now);
+    if (isMoving && !m_isTickPending) {
+        m_isTickPending = true;
+        Host::current().mainQueue().asyncAfter(kAnimationFrame, m_lifetime.guard([this] {
+            m_isTickPending = false;
+            setNeedsUpdate();
+        }));
+    }
+}
+
+} // namespace quillon

@@ -1,0 +1,110 @@
+#pragma once
+
+#include "annotation/DrawingCanvasView.h"
+#include "annotation/DrawingState.h"
+#include "annotation/FadeTransition.h"
+#include "annotation/FinishedStrokesLayer.h"
+#include "annotation/LiveStrokeLayer.h"
+#include "foundation/Cancellable.h"
+#include "foundation/DragGesture.h"
+#include "foundation/Lifetime.h"
+#include "model/AppSettings.h"
+#include "platform/ContentView.h"
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace quillon {
+
+/// The root view of the overlay window: it owns the annotations, stacks what is seen, routes
+/// finished strokes into the history, and listens to the application's notifications.
+///
+/// Bottom to top:
+/// 1. the whiteboard, while annotation and whiteboard mode are both on;
+/// 2. a canvas that stands always and takes the pointer while annotation is on without the
+///    whiteboard;
+/// 3. a second canvas, while both are on, which then takes the pointer. Both show the same strokes,
+///    so that translucent colours are seen twice;
+/// 4. the floating toolbar, while annotation is on and the setting shows it.
+///
+/// With annotation off the strokes stay visible and the pointer passes through.
+class OverlayContainerView : public ContentView {
+public:
+    explicit OverlayContainerView(AppSettings& appSettings);
+
+    DrawingState& drawingState() { return m_drawingState; }
+    DrawingCanvasView& lowerCanvas() { return m_lowerCanvas; }
+    /// The second canvas, while it stands.
+    DrawingCanvasView* upperCanvas() { return m_upperCanvas.get(); }
+    int textEditorResetID() const { return m_textEditorResetID; }
+
+    bool isToolbarVisible() const { return m_isToolbarVisible; }
+    /// The toolbar's centre, in view coordinates. Nothing keeps it inside the view.
+    CGPoint toolbarPosition() const { return m_toolbarPosition; }
+    bool isDraggingToolbar() const { return m_isDraggingToolbar; }
+    /// A drag of the toolbar by its body, in view coordinates. Its centre jumps to the pointer.
+    void toolbarMouseDown(CGPoint location);
+    void toolbarMouseDragged(CGPoint location);
+    void toolbarMouseUp(CGPoint location);
+
+    void clearAllAnnotations();
+
+    void layout(CGSize size, CGFloat scale) override;
+    void mouseDown(CGPoint location) override;
+    void mouseDragged(CGPoint location) override;
+    void mouseUp(CGPoint location) override;
+    Damage takeDamage() override;
+    void paint(GraphicsContext& context, const CGRect& rect) override;
+    std::optional<TextField> textField() override;
+
+private:
+    /// A stroke that auto-erase has removed and that is still to be seen for a moment.
+    struct Fade {
+        StrokeRef stroke;
+        double start = 0;
+    };
+
+    DrawingCanvasView::Connections canvasConnections();
+    void observeNotifications();
+    /// The canvas that takes the pointer, if any does.
+    DrawingCanvasView* activeCanvas();
+    /// Hands the present tool, colour and width to the canvases.
+    void bringCanvasesUpToDate();
+    /// Lets the views come and go as the settings say.
+    void bringStackUpToDate();
+    void placeToolbar();
+    void toolbarDragChanged(const DragValue& drag);
+
+    void startAutoEraseTimer(const DrawingStroke& stroke);
+    void autoErase(const UUID& id);
+    FadingStrokes fadingStrokes(double now);
+    /// Asks for another update while anything is still moving.
+    void keepAnimating(double now);
+    CGRect bounds() const { return {0, 0, m_size.width, m_size.height}; }
+
+    AppSettings& m_appSettings;
+    DrawingState m_drawingState;
+    CGPoint m_toolbarPosition;
+    bool m_isDraggingToolbar = false;
+    int m_textEditorResetID = 0;
+
+    CGSize m_size;
+    bool m_isToolbarVisible = false;
+    DragGesture m_toolbarGesture;
+    DrawingCanvasView m_lowerCanvas;
+    std::unique_ptr<DrawingCanvasView> m_upperCanvas;
+    /// The canvas in which the present drag began.
+    DrawingCanvasView* m_dragCanvas = nullptr;
+    FinishedStrokesLayer m_finishedLayer;
+    LiveStrokeLayer m_liveLayer;
+    std::vector<Fade> m_fades;
+    FadeTransition m_whiteboard;
+    double m_whiteboardOpacity = 0;
+    bool m_isTickPending = false;
+    Damage m_pendingDamage;
+    std::vector<Cancellable> m_subscriptions;
+    Lifetime m_lifetime;
+};
+
+} // namespace quillon

@@ -1,0 +1,161 @@
+#include "annotation/StrokePath.h"
+
+#include <numbers>
+
+namespace quillon {
+
+namespace {
+
+CGRect boundsOf(std::initializer_list<CGPoint> points) {
+    CGPoint low = *points.begin();
+    CGPoint high = low;
+    for (const auto& point : points) {
+        low = {std::min(low.x, point.x), std::min(low.y, point.y)};
+        high = {std::max(high.x, point.x), std::max(high.y, point.y)};
+    }
+    return rectBetween(low, high);
+}
+
+/// Adds the bounds of a curve in pieces no longer than this, so that the inside of a large shape
+/// stays untouched.
+constexpr CGFloat kPieceLength = 160;
+
+void addPieces(const FreehandCurve::Segment& curve, CGFloat reach, int depth, Damage& ink) {
+    const CGRect bounds = curve.bounds();
+    if (depth == 0 || std::min(bounds.width, bounds.height) <= reach ||
+        std::max(bounds.width, bounds.height) <= kPieceLength) {
+        ink.add(bounds.outset(reach));
+        return;
+    }
+    // De Casteljau's division at one half.
+    const CGPoint a = (curve.start + curve.control1) / 2;
+    const CGPoint middle = (curve.control1 + curve.control2) / 2;
+    const CGPoint d = (curve.control2 + curve.end) / 2;
+    const CGPoint b = (a + middle) / 2;
+    const CGPoint c = (middle + d) / 2;
+    const CGPoint split = (b + c) / 2;
+    addPieces({curve.start, a, b, split}, reach, depth - 1, ink);
+    addPieces({split, c, d, curve.end}, reach, depth - 1, ink);
+}
+
+constexpr int kDeepestDivision = 4;
+
+void addArrowHead(CGPoint start, CGPoint end, Path& path) {
+    constexpr CGFloat length = 15;
+    constexpr CGFloat halfAngle = std::numbers::pi / 6;
+    const CGFloat theta = std::atan2(end.y - start.y, end.x - start.x);
+    for (const CGFloat angle : {theta - halfAngle, theta + halfAngle}) {
+        path.move(end);
+        path.addLine({end.x - length * std::cos(angle), end.y - length * std::sin(angle)});
+    }
+}
+
+} // namespace
+
+CGRect FreehandCurve::Segment::bounds() const {
+    return boundsOf({start, control1, control2, end});
+}
+
+FreehandCurve::Segment FreehandCurve::segment(std::size_t index) const {
+    if (isStraight()) {
+        return {point(0), point(0), point(1), point(1)};
+    }
+    const CGPoint p0 = point(index);
+    const CGPoint p1 = point(index + 1);
+    const CGPoint p2 = point(index + 2);
+    const CGPoint p3 = index + 3 < m_points.size() ? point(index + 3) : p2;
+    return {index == 0 ? p0 : p1, p1 + (p2 - p0) / 6, p2 - (p3 - p1) / 6, p2};
+}
+
+void FreehandCurve::addSegments(std::size_t first, std::size_t last, Path& path) const {
+    for (std::size_t index = first; index < last; ++index) {
+        const Segment piece = segment(index);
+        if (index == first) {
+            path.move(piece.start);
+        }
+        if (isStraight()) {
+            path.addLine(piece.end);
+        } else {
+            path.addCurve(piece.end, piece.control1, piece.control2);
+        }
+    }
+}
+
+Path shapePath(ShapeType type, const CGRect& rect, std::optional<CGPoint> startPoint,
+               std::optional<CGPoint> endPoint) {
+    Path path;
+    switch (type) {
+    case ShapeType::rectangle:
+        path.addRect(rect);
+        break;
+    case ShapeType::circle:
+        path.addEllipse(rect);
+        break;
+    case ShapeType::line:
+        path.move(startPoint.value_or(CGPoint{rect.minX(), rect.minY()}));
+        path.addLine(endPoint.value_or(CGPoint{rect.maxX(), rect.maxY()}));
+        break;
+    case ShapeType::arrow: {
+        const CGPoint start = startPoint.value_or(CGPoint{rect.minX(), rect.midY()});
+        const CGPoint end = endPoint.value_or(CGPoint{rect.maxX(), rect.midY()});
+        path.move(start);
+        path.addLine(end);
+        addArrowHead(start, end, path);
+        break;
+    }
+    }
+    return path;
+}
+
+StrokeForm formOf(const DrawingStroke& stroke) {
+    if (stroke.isShape && stroke.shapeType && stroke.shapeRect) {
+        return StrokeForm::shape;
+    }
+    if (stroke.textContent && stroke.fontSize && !stroke.points.empty()) {
+        return StrokeForm::text;
+    }
+    return StrokeForm::freehand;
+}
+
+Damage inkOfPath(const Path& path, CGFloat lineWidth) {
+    const CGFloat reach = inkReach(lineWidth);
+    Damage ink;
+    CGPoint start;
+    CGPoint pen;
+    auto point = path.points().begin();
+    const auto addPiece = [&](CGPoint control1, CGPoint control2, CGPoint end) {
+        addPieces({pen, control1, control2, end}, reach, kDeepestDivision, ink);
+        pen = end;
+    };
+    for (const auto verb : path.verbs()) {
+        switch (verb) {
+        case Path::Verb::move:
+            start = pen = *point++;
+            break;
+        case Path::Verb::line:
+            addPiece(pen + (*point - pen) / 3, pen + (*point - pen) * 2 / 3, *point);
+            ++point;
+            break;
+        case Path::Verb::curve:
+            addPiece(point[0], point[1], point[2]);
+            point += 3;
+            break;
+        case Path::Verb::close:
+            addPiece(pen + (start - pen) / 3, pen + (start - pen) * 2 / 3, start);
+            break;
+        }
+    }
+    return ink;
+}
+
+Damage inkOfSegments(const FreehandCurve& curve, std::size_t first, std::size_t last,
+                     CGFloat lineWidth) {
+    const CGFloat reach = inkReach(lineWidth);
+    Damage ink;
+    for (std::size_t index = first; index < last; ++index) {
+        addPieces(curve.segment(index), reach, kDeepestDivision, ink);
+    }
+    return ink;
+}
+
+} // namespace quillon

@@ -1,0 +1,151 @@
+#include "annotation/StrokeRenderer.h"
+
+namespace quillon {
+
+namespace {
+
+StrokeStyle roundStyle(CGFloat lineWidth) {
+    return {lineWidth, LineCap::round, LineJoin::round};
+}
+
+Text textOf(const DrawingStroke& stroke) {
+    return {*stroke.textContent, *stroke.fontSize, stroke.viewColor()};
+}
+
+Path shapePathOf(const DrawingStroke& stroke) {
+    return shapePath(*stroke.shapeType, *stroke.cgShapeRect(), stroke.cgShapeStartPoint(),
+                     stroke.cgShapeEndPoint());
+}
+
+/// Where the ink of a text falls in the view. Its antialiasing reaches one point further.
+CGRect textInk(const DrawingStroke& stroke, Graphics& graphics) {
+    const CGRect ink = graphics.inkBounds(textOf(stroke)).outset(1);
+    const CGPoint at = stroke.points.front().cgPoint();
+    return {ink.x + at.x, ink.y + at.y, ink.width, ink.height};
+}
+
+/// Walks the list and the fading strokes together in their common order.
+template <typename Visit>
+void forEachInOrder(const StrokeList& strokes, const FadingStrokes& fading, Visit&& visit) {
+    auto next = fading.begin();
+    for (std::size_t index = 0; index < strokes.size(); ++index) {
+        const auto& ref = strokes.ref(index);
+        for (; next != fading.end() && next->first->order() <= ref->order(); ++next) {
+            visit(*next->first, next->second);
+        }
+        visit(*ref, 1.0);
+    }
+    for (; next != fading.end(); ++next) {
+        visit(*next->first, next->second);
+    }
+}
+
+} // namespace
+
+void drawStrokes(GraphicsContext& context, const StrokeList& strokes, Graphics& graphics,
+                 const FadingStrokes& fading) {
+    const CGRect clip = context.clipBounds();
+    std::vector<std::pair<const FinishedStroke*, double>> highlighters;
+    const auto draw = [&](const FinishedStroke& finished, double opacity, BlendMode blendMode) {
+        context.setOpacity(opacity);
+        drawStroke(context, finished.stroke(), blendMode, finished.segments());
+    };
+    forEachInOrder(strokes, fading, [&](const FinishedStroke& finished, double opacity) {
+        if (!finished.inkBounds(graphics).intersects(clip)) {
+            return;
+        }
+        if (finished.stroke().tool == DrawingTool::highlighter) {
+            highlighters.emplace_back(&finished, opacity);
+        } else {
+            draw(finished, opacity, BlendMode::normal);
+        }
+    });
+    for (const auto& [finished, opacity] : highlighters) {
+        draw(*finished, opacity, BlendMode::plusLighter);
+    }
+    context.setOpacity(1);
+}
+
+void drawStroke(GraphicsContext& context, const DrawingStroke& stroke, BlendMode blendMode,
+                const SegmentIndex& segments) {
+    const Color color = paintColor(stroke);
+    context.drawLayer([&](GraphicsContext& layer) {
+        layer.setBlendMode(blendMode);
+        switch (formOf(stroke)) {
+        case StrokeForm::shape:
+            drawShape(layer, *stroke.shapeType, *stroke.cgShapeRect(), color, stroke.lineWidth,
+                      stroke.cgShapeStartPoint(), stroke.cgShapeEndPoint());
+            break;
+        case StrokeForm::text:
+            drawText(layer, *stroke.textContent, stroke.points.front().cgPoint(), color,
+                     *stroke.fontSize);
+            break;
+        case StrokeForm::freehand:
+            drawPath(layer, stroke.points, color, stroke.lineWidth, segments);
+            break;
+        }
+    });
+}
+
+BlendMode blendModeOf(DrawingTool tool) {
+    return tool == DrawingTool::highlighter ? BlendMode::plusLighter : BlendMode::normal;
+}
+
+void drawShape(GraphicsContext& context, ShapeType type, const CGRect& rect, const Color& color,
+               CGFloat lineWidth, std::optional<CGPoint> startPoint,
+               std::optional<CGPoint> endPoint) {
+    context.stroke(shapePath(type, rect, startPoint, endPoint), color, roundStyle(lineWidth));
+}
+
+void drawText(GraphicsContext& context, const std::string& text, CGPoint at, const Color& color,
+              CGFloat fontSize) {
+    context.drawText({text, fontSize, color}, at, Anchor::topLeading);
+}
+
+void drawPath(GraphicsContext& context, std::span<const CodablePoint> points, const Color& color,
+              CGFloat lineWidth, const SegmentIndex& segments) {
+    const FreehandCurve curve(points);
+    Path path;
+    segments.forEachRunNear(
+        curve, context.clipBounds(), inkReach(lineWidth),
+        [&](std::size_t first, std::size_t past) { curve.addSegments(first, past, path); });
+    if (!path.isEmpty()) {
+        context.stroke(path, color, roundStyle(lineWidth));
+    }
+}
+
+Color paintColor(const DrawingStroke& stroke) {
+    return stroke.tool == DrawingTool::eraser ? Color::white.opacity(0.5) : stroke.viewColor();
+}
+
+Damage strokeInk(const DrawingStroke& stroke, std::size_t firstSegment, Graphics& graphics) {
+    switch (formOf(stroke)) {
+    case StrokeForm::shape:
+        return inkOfPath(shapePathOf(stroke), stroke.lineWidth);
+    case StrokeForm::text: {
+        Damage ink;
+        ink.add(textInk(stroke, graphics));
+        return ink;
+    }
+    case StrokeForm::freehand:
+        break;
+    }
+    const FreehandCurve curve(stroke.points);
+    return inkOfSegments(curve, firstSegment, curve.segmentCount(), stroke.lineWidth);
+}
+
+CGRect strokeInkBounds(const DrawingStroke& stroke, const SegmentIndex& segments,
+                       Graphics& graphics) {
+    switch (formOf(stroke)) {
+    case StrokeForm::shape:
+        return shapePathOf(stroke).controlPointBounds().outset(inkReach(stroke.lineWidth));
+    case StrokeForm::text:
+        return textInk(stroke, graphics);
+    case StrokeForm::freehand:
+        break;
+    }
+    return stroke.points.size() < 2 ? CGRect{}
+                                    : segments.bounds().outset(inkReach(stroke.lineWidth));
+}
+
+} // namespace quillon
