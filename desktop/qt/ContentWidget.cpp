@@ -1,0 +1,156 @@
+#include "desktop/qt/ContentWidget.h"
+
+#include "desktop/qt/QtConversions.h"
+#include "desktop/qt/QtGraphicsContext.h"
+#include "desktop/qt/TextFieldWidget.h"
+
+#include <QCoreApplication>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QtMath>
+
+#include <utility>
+
+namespace quillon::desktop {
+
+namespace {
+
+const QEvent::Type kUpdateContent = static_cast<QEvent::Type>(QEvent::registerEventType());
+
+/// The smallest number of points that is a whole number of device pixels, so that a part painted by
+/// itself never shares a pixel with its surroundings. Scales are multiples of a 96th.
+int pointsOfWholePixels(CGFloat scale) {
+    for (int points = 1; points < 96; ++points) {
+        const CGFloat pixels = points * scale;
+        if (qAbs(pixels - qRound(pixels)) < 1e-4) {
+            return points;
+        }
+    }
+    return 96;
+}
+
+} // namespace
+
+ContentWidget::ContentWidget(std::function<void()> onPress)
+    : m_onPress(std::move(onPress)) {
+    setAttribute(Qt::WA_TranslucentBackground);
+    setAttribute(Qt::WA_NoSystemBackground);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+}
+
+ContentWidget::~ContentWidget() {
+    if (m_content) {
+        m_content->rootView->setUpdateRequest({});
+    }
+}
+
+void ContentWidget::setContentView(const std::shared_ptr<HostingView>& view) {
+    m_content = view;
+    m_content->rootView->setUpdateRequest([this] { requestUpdate(); });
+    layoutContent();
+}
+
+bool ContentWidget::event(QEvent* event) {
+    if (event->type() == kUpdateContent) {
+        m_isUpdatePending = false;
+        update();
+        return true;
+    }
+    // The scale is known for sure only on the screen where the window comes to stand.
+    if (event->type() == QEvent::Show || event->type() == QEvent::ScreenChangeInternal) {
+        layoutContent();
+    }
+    return QWidget::event(event);
+}
+
+void ContentWidget::paintEvent(QPaintEvent* event) {
+    if (!m_content) {
+        return;
+    }
+    QPainter painter(this);
+    for (const QRect& rect : event->region()) {
+        painter.setClipRect(rect);
+        QtGraphicsContext context(painter, fromQRectF(rect), devicePixelRatio());
+        m_content->rootView->paint(context, fromQRectF(rect));
+    }
+}
+
+void ContentWidget::resizeEvent(QResizeEvent* /*event*/) {
+    layoutContent();
+}
+
+void ContentWidget::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && m_content) {
+        m_onPress();
+        m_content->rootView->mouseDown(fromQPointF(event->position()));
+    }
+}
+
+void ContentWidget::mouseMoveEvent(QMouseEvent* event) {
+    if (event->buttons().testFlag(Qt::LeftButton) && m_content) {
+        m_content->rootView->mouseDragged(fromQPointF(event->position()));
+    }
+}
+
+void ContentWidget::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && m_content) {
+        m_content->rootView->mouseUp(fromQPointF(event->position()));
+    }
+}
+
+void ContentWidget::requestUpdate() {
+    if (!std::exchange(m_isUpdatePending, true)) {
+        QCoreApplication::postEvent(this, new QEvent(kUpdateContent), Qt::LowEventPriority);
+    }
+}
+
+void ContentWidget::update() {
+    if (!m_content) {
+        return;
+    }
+    const QRegion region = regionOf(m_content->rootView->takeDamage());
+    updateTextField();
+    if (!region.isEmpty() && isVisible()) {
+        repaint(region);
+    }
+}
+
+void ContentWidget::updateTextField() {
+    auto field = m_content->rootView->textField();
+    const bool stood = m_textField != nullptr;
+    if (m_textField && (!field || field->identity != m_textField->identity())) {
+        m_textField.reset();
+    }
+    if (field) {
+        if (m_textField) {
+            m_textField->follow(*std::move(field));
+        } else {
+            m_textField = std::make_unique<TextFieldWidget>(*std::move(field), *this);
+        }
+    }
+    if (onEditingChanged && stood != isEditingText()) {
+        onEditingChanged();
+    }
+}
+
+void ContentWidget::layoutContent() {
+    if (m_content) {
+        const CGSize points{static_cast<CGFloat>(width()), static_cast<CGFloat>(height())};
+        m_content->rootView->layout(points, devicePixelRatio());
+    }
+}
+
+QRegion ContentWidget::regionOf(const Damage& damage) const {
+    const int step = pointsOfWholePixels(devicePixelRatio());
+    const auto low = [step](CGFloat edge) { return qFloor(edge / step) * step; };
+    const auto high = [step](CGFloat edge) { return qCeil(edge / step) * step; };
+    QRegion region;
+    for (const CGRect& rect : damage.rects()) {
+        region += QRect(QPoint(low(rect.minX()), low(rect.minY())),
+                        QPoint(high(rect.maxX()) - 1, high(rect.maxY()) - 1));
+    }
+    return region & QWidget::rect();
+}
+
+} // namespace quillon::desktop

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "platform/Window.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+
+namespace quillon::desktop {
+
+class TextFieldWidget;
+
+/// Shows a content view: hands it the pointer, paints its damage, and lets its text field stand.
+///
+/// One update, some time after the view asked for it and after all input that has arrived by then:
+/// 1. the view says where its picture has changed;
+/// 2. that part is painted and put on the screen at once;
+/// 3. the text field comes, goes or changes as the view says.
+class ContentWidget : public QWidget {
+public:
+    explicit ContentWidget(std::function<void()> onPress);
+    ~ContentWidget() override;
+
+    void setContentView(const std::shared_ptr<HostingView>& view);
+
+    /// Whether a text field has the keyboard or is about to get it.
+    bool isEditingText() const { return m_textField != nullptr; }
+    /// Called after each change of `isEditingText`.
+    std::function<void()> onEditingChanged;
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    void requestUpdate();
+    void update();
+    void updateTextField();
+    void layoutContent();
+    QRegion regionOf(const Damage& damage) const;
+
+    std::function<void()> m_onPress;
+    std::shared_ptr<HostingView> m_content;
+    std::unique_ptr<TextFieldWidget> m_textField;
+    bool m_isUpdatePending = false;
+};
+
+} // namespace quillon::desktop

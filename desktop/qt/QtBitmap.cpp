@@ -1,0 +1,30 @@
+#include "desktop/qt/QtBitmap.h"
+
+#include "desktop/qt/QtConversions.h"
+
+namespace quillon::desktop {
+
+QtBitmap::QtBitmap(CGSize size, CGFloat scale)
+    : m_size(size)
+    , m_scale(scale)
+    , m_image(devicePixels({0, 0, size.width, size.height}, scale).size(),
+              QImage::Format_ARGB32_Premultiplied) {
+    m_image.fill(Qt::transparent);
+}
+
+GraphicsContext& QtBitmap::beginPainting(const CGRect& clip) {
+    const QRect pixels = devicePixels(clip, m_scale).intersected(m_image.rect());
+    m_painter.emplace(&m_image);
+    m_painter->setClipRect(pixels);
+    m_painter->scale(m_scale, m_scale);
+    const QRectF points(pixels.x() / m_scale, pixels.y() / m_scale, pixels.width() / m_scale,
+                        pixels.height() / m_scale);
+    return m_context.emplace(*m_painter, fromQRectF(points), m_scale);
+}
+
+void QtBitmap::endPainting() {
+    m_context.reset();
+    m_painter.reset();
+}
+
+} // namespace quillon::desktop

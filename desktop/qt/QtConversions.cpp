@@ -1,0 +1,61 @@
+#include "desktop/qt/QtConversions.h"
+
+#include <QGuiApplication>
+
+#include <QtMath>
+
+#include <algorithm>
+
+namespace quillon::desktop {
+
+QColor toQColor(const Color& color) {
+    const auto parts = color.resolved();
+    const auto clamped = [](double part) { return static_cast<float>(std::clamp(part, 0.0, 1.0)); };
+    return QColor::fromRgbF(clamped(parts.red), clamped(parts.green), clamped(parts.blue),
+                            clamped(parts.alpha));
+}
+
+QPainterPath toQPainterPath(const Path& path) {
+    QPainterPath result;
+    result.reserve(static_cast<int>(path.points().size()));
+    auto point = path.points().begin();
+    for (const auto verb : path.verbs()) {
+        switch (verb) {
+        case Path::Verb::move:
+            result.moveTo(toQPointF(*point++));
+            break;
+        case Path::Verb::line:
+            result.lineTo(toQPointF(*point++));
+            break;
+        case Path::Verb::curve:
+            result.cubicTo(toQPointF(point[0]), toQPointF(point[1]), toQPointF(point[2]));
+            point += 3;
+            break;
+        case Path::Verb::close:
+            result.closeSubpath();
+            break;
+        }
+    }
+    return result;
+}
+
+QPen toQPen(const Color& color, const StrokeStyle& style) {
+    return QPen(toQColor(color), style.lineWidth, Qt::SolidLine,
+                style.lineCap == LineCap::round ? Qt::RoundCap : Qt::FlatCap,
+                style.lineJoin == LineJoin::round ? Qt::RoundJoin : Qt::MiterJoin);
+}
+
+QRect devicePixels(const CGRect& rect, CGFloat scale) {
+    const auto low = [scale](CGFloat edge) { return qFloor(edge * scale + 1e-6); };
+    const auto high = [scale](CGFloat edge) { return qCeil(edge * scale - 1e-6); };
+    return QRect(QPoint(low(rect.minX()), low(rect.minY())),
+                 QPoint(high(rect.maxX()) - 1, high(rect.maxY()) - 1));
+}
+
+QFont systemFont(CGFloat size) {
+    QFont font = QGuiApplication::font();
+    font.setPixelSize(std::max(1, qRound(size)));
+    return font;
+}
+
+} // namespace quillon::desktop

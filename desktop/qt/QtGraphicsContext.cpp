@@ -1,0 +1,87 @@
+#include "desktop/qt/QtGraphicsContext.h"
+
+#include "desktop/qt/QtBitmap.h"
+#include "desktop/qt/QtConversions.h"
+#include "desktop/qt/QtLayer.h"
+
+#include <QFontMetricsF>
+
+namespace quillon::desktop {
+
+QtGraphicsContext::QtGraphicsContext(QPainter& painter, const CGRect& clip, CGFloat scale)
+    : m_painter(painter)
+    , m_clip(clip)
+    , m_scale(scale) {
+    m_painter.setRenderHint(QPainter::Antialiasing);
+}
+
+QtGraphicsContext::~QtGraphicsContext() = default;
+
+void QtGraphicsContext::setBlendMode(BlendMode mode) {
+    m_painter.setCompositionMode(mode == BlendMode::plusLighter
+                                     ? QPainter::CompositionMode_Plus
+                                     : QPainter::CompositionMode_SourceOver);
+}
+
+void QtGraphicsContext::setOpacity(double opacity) {
+    m_painter.setOpacity(opacity);
+}
+
+void QtGraphicsContext::fill(const Path& path, const Color& color) {
+    m_painter.fillPath(toQPainterPath(path), toQColor(color));
+}
+
+void QtGraphicsContext::stroke(const Path& path, const Color& color, const StrokeStyle& style) {
+    m_painter.strokePath(toQPainterPath(path), toQPen(color, style));
+}
+
+void QtGraphicsContext::drawText(const Text& text, CGPoint at, Anchor anchor) {
+    const QFont font = systemFont(text.fontSize);
+    const QFontMetricsF metrics(font);
+    const QString string = QString::fromStdString(text.string);
+    QPointF origin = toQPointF(at) + QPointF(0, metrics.ascent());
+    if (anchor == Anchor::center) {
+        origin -= QPointF(metrics.horizontalAdvance(string), metrics.height()) / 2;
+    }
+    m_painter.setFont(font);
+    m_painter.setPen(toQColor(text.color));
+    m_painter.drawText(origin, string);
+}
+
+void QtGraphicsContext::clear(const CGRect& rect) {
+    const auto mode = m_painter.compositionMode();
+    m_painter.setCompositionMode(QPainter::CompositionMode_Clear);
+    m_painter.setRenderHint(QPainter::Antialiasing, false);
+    m_painter.fillRect(toQRectF(rect), Qt::transparent);
+    m_painter.setRenderHint(QPainter::Antialiasing);
+    m_painter.setCompositionMode(mode);
+}
+
+void QtGraphicsContext::draw(const Bitmap& bitmap, const CGRect& rect) {
+    const QImage& image = static_cast<const QtBitmap&>(bitmap).image();
+    const QRect pixels = devicePixels(rect, m_scale).intersected(image.rect());
+    drawPixels(image, pixels, pixels.topLeft());
+}
+
+void QtGraphicsContext::drawPixels(const QImage& image, const QRect& from, QPoint to) {
+    if (from.isEmpty()) {
+        return;
+    }
+    // With points and pixels brought to the same size the painter copies rows instead of sampling.
+    const QTransform inPoints = m_painter.worldTransform();
+    m_painter.setWorldTransform(QTransform::fromScale(1 / m_scale, 1 / m_scale) * inPoints);
+    m_painter.drawImage(to, image, from);
+    m_painter.setWorldTransform(inPoints);
+}
+
+GraphicsContext& QtGraphicsContext::beginLayer() {
+    m_layer = std::make_unique<QtLayer>(*this);
+    return *m_layer;
+}
+
+void QtGraphicsContext::endLayer() {
+    m_layer->finish();
+    m_layer.reset();
+}
+
+} // namespace quillon::desktop

@@ -1,0 +1,105 @@
+#include "desktop/qt/QtLayer.h"
+
+#include "desktop/qt/QtConversions.h"
+#include "desktop/qt/QtGraphicsContext.h"
+
+#include <utility>
+
+namespace quillon::desktop {
+
+QtLayer::QtLayer(QtGraphicsContext& receiver)
+    : m_receiver(receiver) {}
+
+QtLayer::~QtLayer() = default;
+
+void QtLayer::finish() {
+    if (m_context) {
+        m_context.reset();
+        m_painter.reset();
+        m_receiver.drawPixels(m_image, m_image.rect(), m_pixels.topLeft());
+        return;
+    }
+    if (m_loneDraw) {
+        const double opacity = m_receiver.m_painter.opacity();
+        m_receiver.m_painter.setOpacity(opacity * m_opacityOfLoneDraw);
+        m_loneDraw(m_receiver);
+        m_receiver.m_painter.setOpacity(opacity);
+    }
+}
+
+CGRect QtLayer::clipBounds() const {
+    return m_receiver.clipBounds();
+}
+
+void QtLayer::setBlendMode(BlendMode mode) {
+    m_blendMode = mode;
+    if (m_context) {
+        m_context->setBlendMode(mode);
+    }
+}
+
+void QtLayer::setOpacity(double opacity) {
+    m_opacity = opacity;
+    if (m_context) {
+        m_context->setOpacity(opacity);
+    }
+}
+
+void QtLayer::fill(const Path& path, const Color& color) {
+    perform([path, color](GraphicsContext& context) { context.fill(path, color); });
+}
+
+void QtLayer::stroke(const Path& path, const Color& color, const StrokeStyle& style) {
+    perform([path, color, style](GraphicsContext& context) { context.stroke(path, color, style); });
+}
+
+void QtLayer::drawText(const Text& text, CGPoint at, Anchor anchor) {
+    perform([text, at, anchor](GraphicsContext& context) { context.drawText(text, at, anchor); });
+}
+
+void QtLayer::clear(const CGRect& rect) {
+    ownContext().clear(rect);
+}
+
+void QtLayer::draw(const Bitmap& bitmap, const CGRect& rect) {
+    ownContext().draw(bitmap, rect);
+}
+
+GraphicsContext& QtLayer::beginLayer() {
+    return ownContext().beginLayer();
+}
+
+void QtLayer::endLayer() {
+    ownContext().endLayer();
+}
+
+void QtLayer::perform(Draw draw) {
+    if (!m_context && !m_loneDraw) {
+        m_loneDraw = std::move(draw);
+        m_opacityOfLoneDraw = m_opacity;
+        return;
+    }
+    draw(ownContext());
+}
+
+QtGraphicsContext& QtLayer::ownContext() {
+    if (!m_context) {
+        const CGFloat scale = m_receiver.m_scale;
+        m_pixels = devicePixels(m_receiver.clipBounds(), scale);
+        m_image = QImage(m_pixels.size(), QImage::Format_ARGB32_Premultiplied);
+        m_image.fill(Qt::transparent);
+        m_painter.emplace(&m_image);
+        m_painter->translate(-m_pixels.topLeft());
+        m_painter->scale(scale, scale);
+        m_context = std::make_unique<QtGraphicsContext>(*m_painter, m_receiver.clipBounds(), scale);
+        if (m_loneDraw) {
+            m_context->setOpacity(m_opacityOfLoneDraw);
+            std::exchange(m_loneDraw, nullptr)(*m_context);
+        }
+        m_context->setBlendMode(m_blendMode);
+        m_context->setOpacity(m_opacity);
+    }
+    return *m_context;
+}
+
+} // namespace quillon::desktop

@@ -1,0 +1,11 @@
+#include "desktop/qt/QtWindows.h"
+
+#include "desktop/qt/QtWindow.h"
+
+namespace quillon::desktop {
+
+std::unique_ptr<WindowBackend> QtWindows::makeWindow(Window& window) {
+    return std::make_unique<QtWindow>(window, m_connection);
+}
+
+} // namespace quillon::desktop

@@ -1,0 +1,242 @@
+#include "annotation/AnnotationCanvas.h"
+#include "annotation/StrokeRenderer.h"
+#include "desktop/qt/QtConversions.h"
+#include "desktop/qt/QtGraphics.h"
+#include "desktop/qt/QtGraphicsContext.h"
+#include "support/FakeHost.h"
+
+#include <QGuiApplication>
+#include <QPainter>
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace quillon::desktop {
+namespace {
+
+constexpr CGSize kSize{240, 160};
+
+/// A screen in memory on which the overlay is shown as the host shows it: only damage is painted.
+class OverlayOnScreen {
+public:
+    explicit OverlayOnScreen(CGFloat scale)
+        : m_scale(scale)
+        , m_screen(devicePixels({0, 0, kSize.width, kSize.height}, scale).size(),
+                   QImage::Format_ARGB32_Premultiplied) {
+        m_screen.fill(Qt::transparent);
+        settings().isAnnotationEnabled = true;
+        overlay.layout(kSize, scale);
+        update();
+    }
+
+    AppSettings& settings() { return AppSettings::shared(); }
+
+    void update() {
+        for (const CGRect& rect : overlay.takeDamage().rects()) {
+            paint(m_screen, rect, [&](GraphicsContext& context, const CGRect& part) {
+                overlay.paint(context, part);
+            });
+        }
+    }
+
+    /// The plain walk: everything there is, over the whole screen, from nothing.
+    QImage plainWalk(double whiteboardOpacity) {
+        QImage picture(m_screen.size(), m_screen.format());
+        picture.fill(Qt::transparent);
+        const CGRect all{0, 0, kSize.width, kSize.height};
+        paint(picture, all, [&](GraphicsContext& context, const CGRect& rect) {
+            if (whiteboardOpacity > 0) {
+                Path sheet;
+                sheet.addRect(rect);
+                context.fill(sheet, Color::white.opacity(whiteboardOpacity));
+            }
+            QtBitmap finished(kSize, m_scale);
+            finished.paint(rect, [&](GraphicsContext& into) {
+                drawStrokes(into, overlay.drawingState().strokes, host.graphics);
+            });
+            for (int canvas = 0; canvas < (overlay.upperCanvas() ? 2 : 1); ++canvas) {
+                context.draw(finished, rect);
+                if (const auto& live = overlay.drawingState().currentStroke.get()) {
+                    drawStroke(context, *live, blendModeOf(live->tool), SegmentIndex(live->points));
+                }
+            }
+        });
+        return picture;
+    }
+
+    const QImage& screen() const { return m_screen; }
+
+    struct QtFakeHost {
+        test::HandTurnedQueue mainQueue;
+        test::FakeDefaults userDefaults;
+        test::FakeApplication application;
+        test::FakeWindows windows;
+        test::FakeScreens screens;
+        test::FakeHotKeys hotKeys;
+        test::FakeStatusBar statusBar;
+        test::FakeImages images;
+        QtGraphics graphics;
+        Host host{{mainQueue, userDefaults, application, windows, screens, hotKeys, statusBar,
+                   images, graphics}};
+    } host;
+    OverlayContainerView overlay{AppSettings::shared()};
+
+private:
+    template <typename Body>
+    void paint(QImage& picture, const CGRect& rect, Body&& body) {
+        const QRect pixels = devicePixels(rect, m_scale) & picture.rect();
+        if (pixels.isEmpty()) {
+            return;
+        }
+        QPainter painter(&picture);
+        painter.setClipRect(pixels);
+        painter.setCompositionMode(QPainter::CompositionMode_Source);
+        painter.fillRect(pixels, Qt::transparent);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+        painter.scale(m_scale, m_scale);
+        const CGRect part{pixels.x() / m_scale, pixels.y() / m_scale, pixels.width() / m_scale,
+                          pixels.height() / m_scale};
+        QtGraphicsContext context(painter, part, m_scale);
+        body(context, part);
+    }
+
+    CGFloat m_scale;
+    QImage m_screen;
+};
+
+/// The number of pixels in which two pictures differ.
+int differingPixels(const QImage& a, const QImage& b) {
+    int count = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            count += a.pixel(x, y) != b.pixel(x, y) ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+class PaintedDamage : public testing::TestWithParam<double> {};
+
+TEST_P(PaintedDamage, after_any_sequence_the_screen_is_pixel_for_pixel_the_plain_walk) {
+    OverlayOnScreen shown(GetParam());
+    auto& settings = shown.settings();
+    auto& state = shown.overlay.drawingState();
+    std::mt19937 random(7);
+    const auto pick = [&](int count) {
+        return static_cast<int>(random() % static_cast<unsigned>(count));
+    };
+    const auto place = [&] { return CGPoint{pick(2600) / 10.0 - 10, pick(1800) / 10.0 - 10}; };
+    const std::vector<Color> colors{Color::red, Color::blue.opacity(0.5), Color::green,
+                                    Color::yellow.opacity(0.3), Color::black};
+    bool isDragging = false;
+    CGPoint pointer;
+    for (int step = 0; step < 900; ++step) {
+        if (isDragging) {
+            pointer = pick(6) == 0 ? place()
+                                   : pointer + CGPoint{pick(160) / 10.0 - 8, pick(160) / 10.0 - 8};
+            if (pick(14) != 0) {
+                shown.overlay.mouseDragged(pointer);
+            } else {
+                shown.overlay.mouseUp(pointer);
+                isDragging = false;
+            }
+        } else {
+            switch (pick(10)) {
+            case 0:
+                state.undo();
+                break;
+            case 1:
+                state.redo();
+                break;
+            case 2:
+                if (pick(12) == 0) {
+                    shown.overlay.clearAllAnnotations();
+                }
+                break;
+            case 3:
+                if (pick(4) == 0) {
+                    settings.isWhiteboardMode = !settings.isWhiteboardMode;
+                    shown.update();
+                    shown.host.mainQueue.advance(2);
+                }
+                break;
+            case 4:
+                if (!state.strokes->empty()) {
+                    state.removeStroke(state.strokes.get()[0].id());
+                }
+                break;
+            default: {
+                auto tool = allCases<DrawingTool>()[static_cast<std::size_t>(pick(8))];
+                if (tool == DrawingTool::text) {
+                    state.addStroke(DrawingStroke({.points = {place()},
+                                                   .color = colors[0],
+                                                   .lineWidth = 1,
+                                                   .tool = tool,
+                                                   .textContent = "Quill fj",
+                                                   .fontSize = 24.0}));
+                    break;
+                }
+                settings.selectedTool = tool;
+                settings.selectedColor = colors[static_cast<std::size_t>(pick(5))];
+                settings.lineWidth = 1 + pick(90) / 10.0;
+                pointer = place();
+                shown.overlay.mouseDown(pointer);
+                isDragging = true;
+            }
+            }
+        }
+        // Several events may fall into one update.
+        if (pick(3) != 0) {
+            shown.update();
+        }
+        if (step % 10 == 0) {
+            shown.update();
+            ASSERT_EQ(differingPixels(shown.screen(),
+                                      shown.plainWalk(settings.isWhiteboardMode ? 0.9 : 0)),
+                      0)
+                << "after step " << step;
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(AtEachScale, PaintedDamage, testing::Values(1.0, 1.25, 1.5, 2.0));
+
+TEST(PaintedDamage, a_stroke_that_fades_leaves_nothing_behind) {
+    OverlayOnScreen shown(1);
+    shown.settings().autoEraseTimer = AutoEraseTimer::twoSeconds;
+    shown.overlay.mouseDown({20, 20});
+    shown.overlay.mouseDragged({90, 60});
+    shown.overlay.mouseUp({90, 60});
+    shown.update();
+    shown.host.mainQueue.advance(2.25);
+    shown.update();
+    EXPECT_GT(qAlpha(shown.screen().pixel(55, 40)), 0);
+    EXPECT_LT(qAlpha(shown.screen().pixel(55, 40)), 255);
+    shown.host.mainQueue.advance(0.5);
+    shown.update();
+    EXPECT_EQ(differingPixels(shown.screen(), shown.plainWalk(0)), 0);
+    EXPECT_EQ(qAlpha(shown.screen().pixel(55, 40)), 0);
+}
+
+TEST(PaintedDamage, a_new_point_of_a_long_stroke_damages_its_tail_alone) {
+    OverlayOnScreen shown(1);
+    shown.overlay.mouseDown({10, 10});
+    for (int x = 11; x < 200; x += 3) {
+        shown.overlay.mouseDragged({static_cast<CGFloat>(x), 10.0 + x % 7});
+    }
+    shown.update();
+    shown.overlay.mouseDragged({203, 12});
+    const CGRect tail = shown.overlay.takeDamage().bounds();
+    EXPECT_GT(tail.minX(), 180);
+    EXPECT_LT(tail.width, 30);
+}
+
+} // namespace
+} // namespace quillon::desktop
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication application(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
