@@ -32,35 +32,35 @@ public:
     AppSettings& settings() { return AppSettings::shared(); }
 
     void update() {
-        for (const CGRect& rect : overlay.takeDamage().rects()) {
+        const Damage damage = overlay.takeDamage();
+        for (const CGRect& rect : damage.rects()) {
             paint(m_screen, rect, [&](GraphicsContext& context, const CGRect& part) {
                 overlay.paint(context, part);
             });
         }
     }
 
-    /// The plain walk: everything there is, over the whole screen, from nothing.
+    /// The plain walk: every segment of every stroke, over the whole screen, from nothing.
     QImage plainWalk(double whiteboardOpacity) {
-        QImage picture(m_screen.size(), m_screen.format());
-        picture.fill(Qt::transparent);
-        const CGRect all{0, 0, kSize.width, kSize.height};
-        paint(picture, all, [&](GraphicsContext& context, const CGRect& rect) {
-            if (whiteboardOpacity > 0) {
-                Path sheet;
-                sheet.addRect(rect);
-                context.fill(sheet, Color::white.opacity(whiteboardOpacity));
-            }
-            QtBitmap finished(kSize, m_scale);
-            finished.paint(rect, [&](GraphicsContext& into) {
-                drawStrokes(into, overlay.drawingState().strokes, host.graphics);
-            });
-            for (int canvas = 0; canvas < (overlay.upperCanvas() ? 2 : 1); ++canvas) {
-                context.draw(finished, rect);
-                if (const auto& live = overlay.drawingState().currentStroke.get()) {
-                    drawStroke(context, *live, blendModeOf(live->tool), SegmentIndex(live->points));
-                }
-            }
+        const QImage finished = painted([&](GraphicsContext& context) {
+            drawStrokes(context, overlay.drawingState().strokes, host.graphics);
         });
+        const QImage sheet = painted([&](GraphicsContext& context) {
+            Path path;
+            path.addRect({0, 0, kSize.width, kSize.height});
+            context.fill(path, Color::white.opacity(whiteboardOpacity));
+        });
+        QImage picture = blank();
+        QPainter painter(&picture);
+        painter.drawImage(0, 0, sheet);
+        for (int canvas = 0; canvas < (overlay.upperCanvas() ? 2 : 1); ++canvas) {
+            painter.drawImage(0, 0, finished);
+            if (const auto& live = overlay.drawingState().currentStroke.get()) {
+                drawOn(painter, [&](GraphicsContext& context) {
+                    drawStroke(context, *live, blendModeOf(live->tool), SegmentIndex(live->points));
+                });
+            }
+        }
         return picture;
     }
 
@@ -98,6 +98,30 @@ private:
                           pixels.height() / m_scale};
         QtGraphicsContext context(painter, part, m_scale);
         body(context, part);
+    }
+
+    QImage blank() const {
+        QImage picture(m_screen.size(), m_screen.format());
+        picture.fill(Qt::transparent);
+        return picture;
+    }
+
+    /// Draws with a clip so wide that nothing is left out.
+    template <typename Body>
+    void drawOn(QPainter& painter, Body&& body) {
+        painter.save();
+        painter.scale(m_scale, m_scale);
+        QtGraphicsContext context(painter, {-1e6, -1e6, 2e6, 2e6}, m_scale);
+        body(context);
+        painter.restore();
+    }
+
+    template <typename Body>
+    QImage painted(Body&& body) {
+        QImage picture = blank();
+        QPainter painter(&picture);
+        drawOn(painter, body);
+        return picture;
     }
 
     CGFloat m_scale;
