@@ -1,0 +1,154 @@
+#include "desktop/storage/SettingsDatabase.h"
+
+namespace quillon::desktop {
+
+namespace {
+
+// Another process may hold the file for the moment of a write.
+constexpr int kBusyTimeoutMilliseconds = 2000;
+
+constexpr const char* kSchema = R"(
+CREATE TABLE IF NOT EXISTS defaults (
+    key     TEXT PRIMARY KEY NOT NULL,
+    boolean INTEGER CHECK (boolean IN (0, 1)),
+    number  REAL,
+    string  TEXT,
+    data    BLOB,
+    CHECK ((boolean IS NOT NULL) + (number IS NOT NULL) + (string IS NOT NULL)
+           + (data IS NOT NULL) = 1)
+) STRICT, WITHOUT ROWID;
+)";
+
+constexpr const char* kSelect = "SELECT key, boolean, number, string, data FROM defaults";
+constexpr const char* kUpsert =
+    "INSERT OR REPLACE INTO defaults (key, boolean, number, string, data)"
+    " VALUES (?1, ?2, ?3, ?4, ?5)";
+
+enum Column { keyColumn, booleanColumn, numberColumn, stringColumn, dataColumn };
+
+bool execute(sqlite3* database, const char* sql) {
+    return sqlite3_exec(database, sql, nullptr, nullptr, nullptr) == SQLITE_OK;
+}
+
+SqliteStatement prepare(sqlite3* database, const char* sql) {
+    sqlite3_stmt* statement = nullptr;
+    sqlite3_prepare_v3(database, sql, -1, SQLITE_PREPARE_PERSISTENT, &statement, nullptr);
+    return SqliteStatement(statement);
+}
+
+SettingsDatabase::Problem problemOf(sqlite3* database) {
+    switch (sqlite3_errcode(database)) {
+    case SQLITE_CANTOPEN:
+    case SQLITE_READONLY:
+    case SQLITE_PERM:
+    case SQLITE_AUTH:
+    case SQLITE_FULL:
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+    case SQLITE_IOERR:
+    case SQLITE_NOMEM:
+        return SettingsDatabase::Problem::unavailable;
+    default:
+        // Also a file of another schema: its statements do not prepare.
+        return SettingsDatabase::Problem::damaged;
+    }
+}
+
+std::string bytesAt(sqlite3_stmt* row, int column) {
+    const auto* bytes = static_cast<const char*>(sqlite3_column_blob(row, column));
+    const auto size = static_cast<std::size_t>(sqlite3_column_bytes(row, column));
+    return bytes ? std::string(bytes, size) : std::string();
+}
+
+std::optional<DefaultsValue> valueAt(sqlite3_stmt* row) {
+    const auto isSet = [row](int column) {
+        return sqlite3_column_type(row, column) != SQLITE_NULL;
+    };
+    if (isSet(booleanColumn)) {
+        return sqlite3_column_int(row, booleanColumn) != 0;
+    }
+    if (isSet(numberColumn)) {
+        return sqlite3_column_double(row, numberColumn);
+    }
+    if (isSet(stringColumn)) {
+        return bytesAt(row, stringColumn);
+    }
+    if (isSet(dataColumn)) {
+        return Data{bytesAt(row, dataColumn)};
+    }
+    return std::nullopt;
+}
+
+/// Binds a value to the parameter of its type; the others stay null.
+struct BindValue {
+    sqlite3_stmt* statement;
+
+    void operator()(bool value) const {
+        sqlite3_bind_int(statement, booleanColumn + 1, value ? 1 : 0);
+    }
+    void operator()(double value) const { sqlite3_bind_double(statement, numberColumn + 1, value); }
+    void operator()(const std::string& value) const {
+        sqlite3_bind_text(statement, stringColumn + 1, value.data(), static_cast<int>(value.size()),
+                          SQLITE_STATIC);
+    }
+    void operator()(const Data& value) const {
+        // An empty blob is not null only when it has an address.
+        const char* bytes = value.bytes.empty() ? "" : value.bytes.data();
+        sqlite3_bind_blob(statement, dataColumn + 1, bytes, static_cast<int>(value.bytes.size()),
+                          SQLITE_STATIC);
+    }
+};
+
+} // namespace
+
+std::variant<SettingsDatabase, SettingsDatabase::Problem>
+SettingsDatabase::open(const std::filesystem::path& file) {
+    sqlite3* raw = nullptr;
+    const int opened =
+        sqlite3_open_v2(file.c_str(), &raw,
+                        SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
+    SqliteDatabase database(raw);
+    if (opened != SQLITE_OK) {
+        return Problem::unavailable;
+    }
+    sqlite3_busy_timeout(raw, kBusyTimeoutMilliseconds);
+    const bool isReady = execute(raw, "PRAGMA journal_mode = WAL; PRAGMA synchronous = NORMAL;") &&
+                         execute(raw, kSchema);
+    SqliteStatement upsert = isReady ? prepare(raw, kUpsert) : nullptr;
+    if (!upsert) {
+        return problemOf(raw);
+    }
+    SettingsDatabase settings(std::move(database), std::move(upsert));
+    if (!settings.readAll()) {
+        return problemOf(raw);
+    }
+    return settings;
+}
+
+std::optional<DefaultsTable> SettingsDatabase::readAll() const {
+    const SqliteStatement select = prepare(m_database.get(), kSelect);
+    if (!select) {
+        return std::nullopt;
+    }
+    DefaultsTable table;
+    int step = sqlite3_step(select.get());
+    for (; step == SQLITE_ROW; step = sqlite3_step(select.get())) {
+        if (auto value = valueAt(select.get())) {
+            table.insert_or_assign(bytesAt(select.get(), keyColumn), *std::move(value));
+        }
+    }
+    return step == SQLITE_DONE ? std::optional(std::move(table)) : std::nullopt;
+}
+
+bool SettingsDatabase::write(std::string_view key, const DefaultsValue& value) const {
+    sqlite3_stmt* statement = m_upsert.get();
+    sqlite3_clear_bindings(statement);
+    sqlite3_bind_text(statement, keyColumn + 1, key.data(), static_cast<int>(key.size()),
+                      SQLITE_STATIC);
+    std::visit(BindValue{statement}, value);
+    const int step = sqlite3_step(statement);
+    sqlite3_reset(statement);
+    return step == SQLITE_DONE;
+}
+
+} // namespace quillon::desktop

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "desktop/storage/SqliteHandles.h"
+#include "platform/UserDefaults.h"
+
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <variant>
+
+namespace quillon::desktop {
+
+using DefaultsTable = std::map<std::string, DefaultsValue, std::less<>>;
+
+/// The file in which the defaults stand: one table with a column for each type, of which every row
+/// fills exactly one. It is written through a log, so that a change survives the end of the process
+/// at any moment, and two processes may hold it at once.
+class SettingsDatabase {
+public:
+    /// Why a database could not be opened.
+    enum class Problem {
+        /// The file is no such database, or is damaged.
+        damaged,
+        /// The place cannot be read or written.
+        unavailable,
+    };
+
+    static std::variant<SettingsDatabase, Problem> open(const std::filesystem::path& file);
+
+    /// All rows, or nothing when they cannot be read.
+    std::optional<DefaultsTable> readAll() const;
+
+    /// False when the value could not be written.
+    bool write(std::string_view key, const DefaultsValue& value) const;
+
+private:
+    SettingsDatabase(SqliteDatabase database, SqliteStatement upsert)
+        : m_database(std::move(database))
+        , m_upsert(std::move(upsert)) {}
+
+    SqliteDatabase m_database;
+    SqliteStatement m_upsert;
+};
+
+} // namespace quillon::desktop
