@@ -1,0 +1,59 @@
+#pragma once
+
+#include "desktop/support/Eventually.h"
+
+#include <sys/types.h>
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quillon::test {
+
+/// A program run by a test. What it prints is kept; it ends with the test, whatever happens.
+class ChildProcess {
+public:
+    using Environment = std::map<std::string, std::string>;
+
+    /// Runs `command` with exactly this environment. A pipe end given as `keptDescriptor` stays
+    /// open in the child.
+    ChildProcess(const std::vector<std::string>& command, const Environment& environment,
+                 int keptDescriptor = -1);
+    ~ChildProcess();
+    ChildProcess(const ChildProcess&) = delete;
+    ChildProcess& operator=(const ChildProcess&) = delete;
+
+    pid_t pid() const { return m_pid; }
+    bool isRunning();
+    void sendSignal(int signal) const;
+    /// The exit status, or 128 + the signal; nothing when it still runs at the end of the bound.
+    std::optional<int> waitForExit(std::chrono::milliseconds bound = defaultBound);
+
+    std::string standardOutput() const;
+    std::string standardError() const;
+
+private:
+    void reap();
+
+    pid_t m_pid = -1;
+    std::optional<int> m_status;
+    std::string m_outputFile;
+    std::string m_errorFile;
+};
+
+/// A folder of its own that goes with its holder.
+class TemporaryFolder {
+public:
+    TemporaryFolder();
+    ~TemporaryFolder();
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    const std::string& path() const { return m_path; }
+
+private:
+    std::string m_path;
+};
+
+} // namespace quillon::test

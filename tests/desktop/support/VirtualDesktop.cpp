@@ -1,0 +1,118 @@
+#include "desktop/support/VirtualDesktop.h"
+
+#include <poll.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+
+namespace quillon::test {
+
+namespace {
+
+constexpr const char* kCompositorSettings = R"(backend = "xrender";
+vsync = false;
+shadow = false;
+fading = false;
+use-damage = true;
+detect-client-opacity = true;
+)";
+
+/// Reads the display number that the server writes once it is ready.
+std::string readDisplayNumber(int descriptor) {
+    std::string number;
+    pollfd waiting{descriptor, POLLIN, 0};
+    char character = 0;
+    while (poll(&waiting, 1, 10000) == 1 && read(descriptor, &character, 1) == 1 &&
+           character != '\n') {
+        number += character;
+    }
+    return number;
+}
+
+} // namespace
+
+VirtualDesktop::VirtualDesktop(const Options& options) {
+    for (const char* folder : {"/config", "/run", "/data", "/cache"}) {
+        std::filesystem::create_directory(m_home.path() + folder);
+    }
+    std::filesystem::permissions(m_home.path() + "/run", std::filesystem::perms::owner_all);
+    startServer(options);
+    m_connection = std::make_unique<XConnection>(m_display);
+    if (options.hasWindowManager) {
+        startWindowManager();
+    }
+    if (options.hasCompositor) {
+        startCompositor();
+    }
+}
+
+ChildProcess::Environment VirtualDesktop::environment() const {
+    const char* path = std::getenv("PATH");
+    return {
+        {"PATH", path ? path : "/usr/bin:/bin"},
+        {"DISPLAY", m_display},
+        {"HOME", m_home.path()},
+        {"XDG_CONFIG_HOME", configFolder()},
+        {"XDG_RUNTIME_DIR", m_home.path() + "/run"},
+        {"XDG_DATA_HOME", m_home.path() + "/data"},
+        {"XDG_CACHE_HOME", m_home.path() + "/cache"},
+        {"LANG", "C.UTF-8"},
+        // No bus: what stands on the machine's own session is of no concern to a test.
+        {"DBUS_SESSION_BUS_ADDRESS", "disabled:"},
+        {"NO_AT_BRIDGE", "1"},
+    };
+}
+
+ChildProcess& VirtualDesktop::start(const std::vector<std::string>& command) {
+    m_clients.push_back(std::make_unique<ChildProcess>(command, environment()));
+    return *m_clients.back();
+}
+
+void VirtualDesktop::startServer(const Options& options) {
+    int ends[2];
+    if (pipe(ends) != 0) {
+        throw std::runtime_error("no pipe could be made");
+    }
+    const std::string geometry =
+        std::to_string(options.width) + "x" + std::to_string(options.height) + "x24";
+    m_server = std::make_unique<ChildProcess>(
+        std::vector<std::string>{"Xvfb", "-displayfd", std::to_string(ends[1]), "-screen", "0",
+                                 geometry, "-nolisten", "tcp", "-noreset"},
+        ChildProcess::Environment{{"PATH", std::getenv("PATH")}, {"HOME", m_home.path()}}, ends[1]);
+    close(ends[1]);
+    const std::string number = readDisplayNumber(ends[0]);
+    close(ends[0]);
+    if (number.empty()) {
+        throw std::runtime_error("the X server did not start: " + m_server->standardError());
+    }
+    m_display = ":" + number;
+}
+
+void VirtualDesktop::startCompositor() {
+    const std::string settings = m_home.path() + "/picom.conf";
+    std::ofstream(settings) << kCompositorSettings;
+    start({"picom", "--config", settings});
+    if (!eventually([this] { return m_connection->selectionOwner("_NET_WM_CM_S0") != XCB_NONE; })) {
+        throw std::runtime_error("the compositor did not start");
+    }
+}
+
+void VirtualDesktop::startWindowManager() {
+    start({"openbox"});
+    const auto isReady = [this] {
+        const auto cookie =
+            xcb_get_property(m_connection->get(), 0, m_connection->root(),
+                             m_connection->atom("_NET_SUPPORTING_WM_CHECK"), XCB_ATOM_WINDOW, 0, 1);
+        const XOwned<xcb_get_property_reply_t> reply(
+            xcb_get_property_reply(m_connection->get(), cookie, nullptr));
+        return reply && xcb_get_property_value_length(reply.get()) > 0;
+    };
+    if (!eventually(isReady)) {
+        throw std::runtime_error("the window manager did not start");
+    }
+}
+
+} // namespace quillon::test

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "desktop/support/ChildProcess.h"
+#include "desktop/support/XConnection.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace quillon::test {
+
+/// A desktop of a test's own: an X server without a screen, with a compositor and a window manager,
+/// and a home that starts empty. Everything ends with it.
+class VirtualDesktop {
+public:
+    struct Options {
+        int width = 1920;
+        int height = 1080;
+        bool hasCompositor = true;
+        bool hasWindowManager = true;
+    };
+
+    VirtualDesktop()
+        : VirtualDesktop(Options()) {}
+    explicit VirtualDesktop(const Options& options);
+
+    const std::string& display() const { return m_display; }
+    XConnection& connection() { return *m_connection; }
+    /// Where programs of this desktop keep their settings.
+    std::string configFolder() const { return m_home.path() + "/config"; }
+    /// The environment of a program that belongs to this desktop, and of nothing else around.
+    ChildProcess::Environment environment() const;
+
+    /// Starts a program of the desktop, such as a tray, which then runs to the end.
+    ChildProcess& start(const std::vector<std::string>& command);
+
+private:
+    void startServer(const Options& options);
+    void startCompositor();
+    void startWindowManager();
+
+    TemporaryFolder m_home;
+    std::string m_display;
+    // The clients go before the server does.
+    std::unique_ptr<ChildProcess> m_server;
+    std::vector<std::unique_ptr<ChildProcess>> m_clients;
+    std::unique_ptr<XConnection> m_connection;
+};
+
+} // namespace quillon::test

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <xcb/xcb.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+#include <string>
+
+namespace quillon::test {
+
+struct FreeMemory {
+    void operator()(void* memory) const { std::free(memory); }
+};
+template <typename T>
+using XOwned = std::unique_ptr<T, FreeMemory>;
+
+/// A test's own client of an X server.
+class XConnection {
+public:
+    /// Throws when the display does not answer.
+    explicit XConnection(const std::string& display);
+    ~XConnection();
+    XConnection(const XConnection&) = delete;
+    XConnection& operator=(const XConnection&) = delete;
+
+    xcb_connection_t* get() const { return m_connection; }
+    const xcb_screen_t& screen() const { return *m_screen; }
+    xcb_window_t root() const { return m_screen->root; }
+
+    xcb_atom_t atom(const std::string& name) const;
+    /// Who owns a selection; `XCB_NONE` when nobody does.
+    xcb_window_t selectionOwner(const std::string& name) const;
+    xcb_window_t focusedWindow() const;
+    /// Returns once the server has carried out everything that was asked so far.
+    void synchronise() const;
+
+private:
+    xcb_connection_t* m_connection;
+    const xcb_screen_t* m_screen;
+};
+
+} // namespace quillon::test
