@@ -2,8 +2,10 @@
 
 #include "desktop/x11/XcbHeaders.h"
 
+#include <cstdint>
 #include <cstdlib>
 #include <memory>
+#include <string_view>
 
 namespace quillon::desktop {
 
@@ -20,6 +22,24 @@ using XcbOwned = std::unique_ptr<T, FreeDeleter>;
 inline XcbOwned<xcb_generic_error_t> requestError(xcb_connection_t* connection,
                                                   xcb_void_cookie_t cookie) {
     return XcbOwned<xcb_generic_error_t>(xcb_request_check(connection, cookie));
+}
+
+/// "None" in the types of the fields that hold it: the headers give it as an enumerator.
+inline constexpr xcb_atom_t noAtom = XCB_ATOM_NONE;
+inline constexpr xcb_window_t noWindow = XCB_WINDOW_NONE;
+
+/// The atom of that name, made when there is none yet; `noAtom` when the connection is broken.
+inline xcb_atom_t atomNamed(xcb_connection_t* connection, std::string_view name) {
+    const auto cookie =
+        xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
+    const XcbOwned<xcb_intern_atom_reply_t> reply(
+        xcb_intern_atom_reply(connection, cookie, nullptr));
+    return reply ? reply->atom : noAtom;
+}
+
+/// The root window of the first X screen, which is the only one of today's servers.
+inline xcb_window_t rootWindow(xcb_connection_t* connection) {
+    return xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
 }
 
 /// The type of an event without the mark that another client sent it.

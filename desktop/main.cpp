@@ -1,0 +1,99 @@
+#include "desktop/qt/ActiveWindow.h"
+#include "desktop/qt/QtApplication.h"
+#include "desktop/qt/QtGraphics.h"
+#include "desktop/qt/QtImages.h"
+#include "desktop/qt/QtMainQueue.h"
+#include "desktop/qt/QtScreens.h"
+#include "desktop/qt/QtStatusBar.h"
+#include "desktop/qt/QtWindows.h"
+#include "desktop/qt/UnixSignals.h"
+#include "desktop/qt/X11EventFilter.h"
+#include "desktop/storage/SqliteDefaults.h"
+#include "desktop/x11/SingleInstance.h"
+#include "desktop/x11/X11HotKeys.h"
+#include "desktop/x11/XcbHandles.h"
+#include "platform/Host.h"
+#include "shell/OrvalisCloneApp.h"
+
+#include <QApplication>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+
+using namespace quillon;
+using namespace quillon::desktop;
+
+namespace {
+
+/// True when an X server answers. The toolkit would abort the program if none did.
+bool hasDisplay() {
+    xcb_connection_t* connection = xcb_connect(nullptr, nullptr);
+    const bool answers = xcb_connection_has_error(connection) == 0;
+    xcb_disconnect(connection);
+    return answers;
+}
+
+void prepareToolkit() {
+    // Under Wayland the program runs through XWayland: it needs what only X11 offers.
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    // Every place that the pointer passed becomes a point of the stroke.
+    QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    QGuiApplication::setDesktopFileName("quillon-mark");
+    QCoreApplication::setApplicationName("quillon-mark");
+    QGuiApplication::setApplicationDisplayName("Quillon Mark");
+}
+
+/// Makes the ports, gives them to the system, and runs the loop to its end.
+int run(QApplication& application, xcb_connection_t* connection) {
+    const xcb_window_t root = rootWindow(connection);
+    SingleInstance instance(connection, root, SingleInstance::selectionName(getuid()));
+    if (instance.acquire() == SingleInstance::Outcome::handedOver) {
+        return EXIT_SUCCESS;
+    }
+
+    QtMainQueue mainQueue;
+    SqliteDefaults userDefaults(userConfigFolder());
+    QtApplication system;
+    QtWindows windows(connection);
+    QtScreens screens([connection] { return activeWindowFrame(connection); });
+    X11HotKeys hotKeys(connection, root);
+    X11EventFilter events;
+    QtStatusBar statusBar(events, connection, system);
+    QtImages images;
+    QtGraphics graphics;
+    Host host(
+        {mainQueue, userDefaults, system, windows, screens, hotKeys, statusBar, images, graphics});
+    OrvalisCloneApp app;
+
+    const auto instanceEvents = events.addHandler(
+        [&](const xcb_generic_event_t& event) { return instance.handleEvent(event); });
+    const auto hotKeyEvents = events.addHandler(
+        [&](const xcb_generic_event_t& event) { return hotKeys.handleEvent(event); });
+    instance.onActivated = [&] { system.sendAction("openSettings"); };
+    screens.setChangeHandler([&] {
+        host.notificationCenter().post(NSApplicationDidChangeScreenParametersNotification);
+    });
+    const UnixSignals signalsToEnd([&] { system.terminate(); });
+
+    app.appDelegate().applicationDidFinishLaunching();
+    const int status = application.exec();
+    app.appDelegate().applicationWillTerminate();
+    return status;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (!hasDisplay()) {
+        std::fprintf(stderr, "quillon-mark: no X display answers; is DISPLAY set?\n");
+        return EXIT_FAILURE;
+    }
+    prepareToolkit();
+    QApplication application(argc, argv);
+    const auto* x11 = application.nativeInterface<QNativeInterface::QX11Application>();
+    return run(application, x11->connection());
+}

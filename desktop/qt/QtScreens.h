@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/Screens.h"
+
+#include <QObject>
+#include <QRect>
+
+#include <functional>
+#include <optional>
+
+class QScreen;
+
+namespace quillon::desktop {
+
+/// The screens as Qt knows them from RandR. The application object must exist.
+class QtScreens : public QObject, public Screens {
+public:
+    /// Where the window with the keyboard stands, in device pixels; nothing when there is none.
+    using ActiveWindowFrame = std::function<std::optional<QRect>()>;
+
+    explicit QtScreens(ActiveWindowFrame activeWindowFrame);
+
+    std::vector<NSScreen> screens() const override;
+    std::optional<NSScreen> mainScreen() const override;
+
+    /// Called in a later turn of the loop than the change, once for all changes of one turn.
+    void setChangeHandler(std::function<void()> changed) { m_changed = std::move(changed); }
+
+protected:
+    bool event(QEvent* event) override;
+
+private:
+    void watch(QScreen* screen);
+    void noteChange();
+    QScreen* screenWithKeyboard() const;
+
+    ActiveWindowFrame m_activeWindowFrame;
+    std::function<void()> m_changed;
+    bool m_isChangePending = false;
+};
+
+} // namespace quillon::desktop
