@@ -1,5 +1,6 @@
 #include "desktop/x11/HeldKeys.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace quillon::desktop {
@@ -12,16 +13,26 @@ constexpr std::uint32_t repeatSlack = 250;
 } // namespace
 
 HeldKeys::Press HeldKeys::pressed(xcb_keycode_t keyCode, xcb_timestamp_t time) {
-    const Key last = std::exchange(m_keys[keyCode], {Seen::down, time});
-    // Time stamps wrap around after 49 days, and so does their difference.
-    const xcb_timestamp_t elapsed = time - last.time;
-    const bool repeats = (last.seen == Seen::down && elapsed <= m_repeatDelay + repeatSlack) ||
-                         (last.seen == Seen::up && elapsed == 0);
-    return repeats ? Press::repeat : Press::first;
+    const auto [delay, interval] = m_repeatTimes;
+    const Key last = std::exchange(m_keys[keyCode], {Seen::down, time, time});
+    // Time stamps wrap around after 49 days, and so do their differences.
+    const xcb_timestamp_t sinceLast = time - last.time;
+    const xcb_timestamp_t sincePress = time - last.pressTime;
+    switch (last.seen) {
+    case Seen::never:
+        return Press::first;
+    case Seen::down:
+        return sinceLast <= std::max(delay, interval) + repeatSlack ? Press::repeat : Press::first;
+    case Seen::up:
+        return sinceLast == 0 && sincePress >= std::min(delay, interval) ? Press::repeat
+                                                                         : Press::first;
+    }
+    return Press::first;
 }
 
 void HeldKeys::released(xcb_keycode_t keyCode, xcb_timestamp_t time) {
-    m_keys[keyCode] = {Seen::up, time};
+    m_keys[keyCode].seen = Seen::up;
+    m_keys[keyCode].time = time;
 }
 
 } // namespace quillon::desktop

@@ -15,14 +15,24 @@ namespace quillon::desktop {
 /// - a release and a press at each repeat, both with the same time stamp.
 ///
 /// Some releases are never heard, as when another window has the keyboard by then. So a press that
-/// comes later than any repeat could is a press of its own, though no release came before it.
+/// comes later than any repeat could is a press of its own, though no release came before it. And a
+/// program may strike a key many times within a millisecond, so one that comes sooner than any
+/// repeat could is a press of its own too.
 class HeldKeys {
 public:
     enum class Press { first, repeat };
 
-    /// The longest time between a press and its first repeat, or between two repeats, in
-    /// milliseconds.
-    void setRepeatDelay(std::uint32_t milliseconds) { m_repeatDelay = milliseconds; }
+    /// When the keyboard repeats a held key, in milliseconds.
+    struct RepeatTimes {
+        /// From a press to its first repeat.
+        std::uint32_t delay = 660;
+        /// From one repeat to the next.
+        std::uint32_t interval = 40;
+
+        friend bool operator==(const RepeatTimes&, const RepeatTimes&) = default;
+    };
+
+    void setRepeatTimes(const RepeatTimes& times) { m_repeatTimes = times; }
 
     Press pressed(xcb_keycode_t keyCode, xcb_timestamp_t time);
     void released(xcb_keycode_t keyCode, xcb_timestamp_t time);
@@ -32,9 +42,10 @@ private:
     struct Key {
         Seen seen = Seen::never;
         xcb_timestamp_t time = 0;
+        xcb_timestamp_t pressTime = 0;
     };
 
-    std::uint32_t m_repeatDelay = 0;
+    RepeatTimes m_repeatTimes;
     std::array<Key, 256> m_keys;
 };
 

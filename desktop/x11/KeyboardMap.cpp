@@ -109,7 +109,7 @@ KeyboardMap KeyboardMap::read(xcb_connection_t* connection) {
         const XcbOwned<xcb_xkb_get_controls_reply_t> controlsReply(
             xcb_xkb_get_controls_reply(connection, controls, nullptr));
         if (controlsReply) {
-            map.repeatDelay = std::max(controlsReply->repeatDelay, controlsReply->repeatInterval);
+            map.repeatTimes = {controlsReply->repeatDelay, controlsReply->repeatInterval};
         }
     }
     const XcbOwned<xcb_get_modifier_mapping_reply_t> modifiersReply(

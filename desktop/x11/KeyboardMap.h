@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/x11/HeldKeys.h"
 #include "desktop/x11/KeyTable.h"
 #include "desktop/x11/ModifierMap.h"
 #include "desktop/x11/XcbHeaders.h"
@@ -12,9 +13,7 @@ namespace quillon::desktop {
 struct KeyboardMap {
     KeyTable keys = KeyTable::evdev();
     ModifierMap modifiers = ModifierMap::usual();
-    /// The longest time that passes between a press and its first repeat, or between two repeats,
-    /// in milliseconds.
-    std::uint32_t repeatDelay = 660;
+    HeldKeys::RepeatTimes repeatTimes;
 
     /// Asks the server in one round trip, besides the look-up of the keyboard extension, which a
     /// connection makes once. Whatever the server does not tell keeps its usual value.

@@ -126,7 +126,7 @@ void X11HotKeys::readKeyboard() {
     const auto mark = xcb_no_operation(m_connection);
     m_keyboardReadAt = mark.sequence;
     m_keyboard = KeyboardMap::read(m_connection);
-    m_heldKeys.setRepeatDelay(m_keyboard.repeatDelay);
+    m_heldKeys.setRepeatTimes(m_keyboard.repeatTimes);
 }
 
 void X11HotKeys::regrab() {
