@@ -1,0 +1,564 @@
+#include "desktop/x11/X11HotKeys.h"
+
+#include "desktop/x11/Client.h"
+#include "desktop/x11/ServerAlone.h"
+#include "desktop/x11/TestKeyboard.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace quillon::test {
+
+namespace {
+
+using desktop::eventAs;
+using desktop::eventType;
+using desktop::X11HotKeys;
+using desktop::XcbOwned;
+
+constexpr std::uint32_t commandShift = cmdKey | shiftKey;
+constexpr std::uint32_t signature = 0x4F52564C;
+constexpr EventTypeSpec hotKeyPressed{kEventClassKeyboard, kEventHotKeyPressed};
+
+/// Virtual key codes.
+namespace virtualKey {
+constexpr std::uint32_t s = 1;
+constexpr std::uint32_t h = 4;
+constexpr std::uint32_t c = 8;
+constexpr std::uint32_t home = 115;
+constexpr std::uint32_t none = 52;
+} // namespace virtualKey
+
+using Ids = std::vector<std::uint32_t>;
+
+/// A program with hot keys, which notes the ids of those that were pressed.
+struct Program {
+    explicit Program(const VirtualDesktop& server)
+        : client(server.display())
+        , hotKeys(std::in_place, client.connection(), client.root()) {
+        hotKeys->installEventHandler(EventTarget::application, &Program::handle, hotKeyPressed,
+                                     this);
+    }
+
+    HotKeys::Registration bind(std::uint32_t keyCode, std::uint32_t modifiers, std::uint32_t id) {
+        return hotKeys->registerEventHotKey(keyCode, modifiers, {signature, id},
+                                            EventTarget::application, 0);
+    }
+
+    /// The ids of the hot keys that were pressed since the last call.
+    Ids presses() {
+        client.pump([this](const xcb_generic_event_t& event) { take(event); });
+        return std::exchange(pressed, {});
+    }
+
+    /// Waits until so many repeats of a held key came.
+    bool awaitRepeats(int count) {
+        const int wanted = keyPresses + count;
+        return client.pumpUntil([&] { return keyPresses >= wanted; },
+                                [this](const xcb_generic_event_t& event) { take(event); });
+    }
+
+    void take(const xcb_generic_event_t& event) {
+        EXPECT_NE(event.response_type, 0) << "an error reached the event loop";
+        if (eventType(event) == XCB_KEY_PRESS) {
+            ++keyPresses;
+        }
+        swallowed += hotKeys->handleEvent(event) ? 1 : 0;
+    }
+
+    static OSStatus handle(const HotKeyEvent* event, void* userData) {
+        auto& program = *static_cast<Program*>(userData);
+        const auto id = program.hotKeys->getEventParameter(*event);
+        EXPECT_TRUE(id && id->signature == signature);
+        program.pressed.push_back(id ? id->id : 0);
+        return noErr;
+    }
+
+    Client client;
+    std::optional<X11HotKeys> hotKeys;
+    Ids pressed;
+    int keyPresses = 0;
+    int swallowed = 0;
+};
+
+class X11HotKeysTest : public testing::Test {
+protected:
+    /// Whether a program that knows nothing of this one could grab exactly this.
+    bool canBeGrabbed(xcb_keycode_t keyCode, unsigned modifiers) {
+        Client other(server.display());
+        const auto cookie = xcb_grab_key_checked(other.connection(), 0, other.root(),
+                                                 static_cast<std::uint16_t>(modifiers), keyCode,
+                                                 XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+        return !desktop::requestError(other.connection(), cookie);
+    }
+
+    VirtualDesktop server{serverAlone};
+    TestKeyboard keyboard{server.display()};
+    Program program{server};
+};
+
+constexpr unsigned superShift = XCB_MOD_MASK_4 | XCB_MOD_MASK_SHIFT;
+
+} // namespace
+
+TEST_F(X11HotKeysTest, a_press_reaches_the_handler_whoever_has_the_keyboard) {
+    EXPECT_EQ(program.bind(virtualKey::s, commandShift, 7).status, noErr);
+    keyboard.strike({key::leftSuper, key::leftShift, key::s});
+    EXPECT_EQ(program.presses(), Ids{7});
+}
+
+TEST_F(X11HotKeysTest, the_modifiers_may_be_pressed_in_any_order_and_on_either_side) {
+    program.bind(virtualKey::s, commandShift, 1);
+    keyboard.strike({key::leftShift, key::rightSuper, key::s});
+    EXPECT_EQ(program.presses(), Ids{1});
+}
+
+TEST_F(X11HotKeysTest, each_press_is_one_call) {
+    program.bind(virtualKey::s, commandShift, 1);
+    program.bind(virtualKey::h, commandShift, 2);
+    keyboard.strike({key::leftSuper, key::leftShift, key::s});
+    keyboard.strike({key::leftSuper, key::leftShift, key::h});
+    keyboard.strike({key::leftSuper, key::leftShift, key::s});
+    EXPECT_EQ(program.presses(), (Ids{1, 2, 1}));
+}
+
+TEST_F(X11HotKeysTest, a_second_key_may_be_pressed_while_the_first_is_held) {
+    program.bind(virtualKey::s, commandShift, 1);
+    program.bind(virtualKey::h, commandShift, 2);
+    keyboard.strike({key::leftSuper, key::leftShift, key::s, key::h});
+    EXPECT_EQ(program.presses(), (Ids{1, 2}));
+}
+
+TEST_F(X11HotKeysTest, only_exactly_its_modifiers_match) {
+    program.bind(virtualKey::s, commandShift, 1);
+    keyboard.strike({key::s});
+    keyboard.strike({key::leftSuper, key::s});
+    keyboard.strike({key::leftShift, key::s});
+    keyboard.strike({key::leftSuper, key::leftShift, key::control, key::s});
+    keyboard.strike({key::leftSuper, key::leftShift, key::leftAlt, key::s});
+    keyboard.strike({key::leftSuper, key::leftShift, key::h});
+    EXPECT_EQ(program.presses(), Ids{});
+}
+
+TEST_F(X11HotKeysTest, one_key_may_stand_for_several_hot_keys_with_different_modifiers) {
+    program.bind(virtualKey::s, 0, 1);
+    program.bind(virtualKey::s, optionKey, 2);
+    program.bind(virtualKey::s, optionKey | controlKey, 3);
+    keyboard.strike({key::control, key::leftAlt, key::s});
+    keyboard.strike({key::leftAlt, key::s});
+    keyboard.strike({key::s});
+    EXPECT_EQ(program.presses(), (Ids{3, 2, 1}));
+}
+
+TEST_F(X11HotKeysTest, the_lock_keys_play_no_part) {
+    keyboard.bindModifier(XCB_MAP_INDEX_3, {key::scrollLock});
+    program.presses();
+    program.bind(virtualKey::s, commandShift, 1);
+    constexpr unsigned caps = XCB_MOD_MASK_LOCK;
+    constexpr unsigned num = XCB_MOD_MASK_2;
+    constexpr unsigned scroll = XCB_MOD_MASK_3;
+    for (const unsigned locks :
+         {0U, caps, num, scroll, caps | num, caps | scroll, num | scroll, caps | num | scroll}) {
+        keyboard.lock(static_cast<std::uint8_t>(locks));
+        keyboard.strike({key::leftSuper, key::leftShift, key::s});
+        EXPECT_EQ(program.presses(), Ids{1}) << "locks " << locks;
+        keyboard.strike({key::leftSuper, key::s});
+        EXPECT_EQ(program.presses(), Ids{}) << "locks " << locks;
+    }
+}
+
+TEST_F(X11HotKeysTest, the_current_layout_of_several_plays_no_part) {
+    keyboard.load("-rules evdev -model pc105 -layout us,ru");
+    program.presses();
+    program.bind(virtualKey::s, commandShift, 1);
+    for (const std::uint8_t group : {std::uint8_t{0}, std::uint8_t{1}}) {
+        keyboard.lockGroup(group);
+        keyboard.strike({key::leftSuper, key::leftShift, key::s});
+        EXPECT_EQ(program.presses(), Ids{1}) << "layout " << int{group};
+    }
+}
+
+TEST_F(X11HotKeysTest, a_pressed_pointer_button_plays_no_part) {
+    program.bind(virtualKey::s, commandShift, 1);
+    keyboard.pressButton(1);
+    keyboard.strike({key::leftSuper, key::leftShift, key::s});
+    EXPECT_EQ(program.presses(), Ids{1});
+}
+
+TEST_F(X11HotKeysTest, a_held_key_is_one_press_though_each_repeat_comes_with_a_release) {
+    keyboard.setRepeat(30, 10);
+    program.presses();
+    program.bind(virtualKey::s, commandShift, 1);
+    for (const xcb_keycode_t keyCode : {key::leftSuper, key::leftShift, key::s}) {
+        keyboard.press(keyCode);
+    }
+    EXPECT_TRUE(program.awaitRepeats(6));
+    keyboard.release(key::s);
+    EXPECT_EQ(program.presses(), Ids{1});
+
+    keyboard.press(key::s);
+    keyboard.release(key::s);
+    EXPECT_EQ(program.presses(), Ids{1});
+}
+
+TEST_F(X11HotKeysTest, a_held_key_is_one_press_though_its_repeats_come_without_releases) {
+    const auto flags =
+        xcb_xkb_per_client_flags(program.client.connection(), XCB_XKB_ID_USE_CORE_KBD,
+                                 XCB_XKB_PER_CLIENT_FLAG_DETECTABLE_AUTO_REPEAT,
+                                 XCB_XKB_PER_CLIENT_FLAG_DETECTABLE_AUTO_REPEAT, 0, 0, 0);
+    const XcbOwned<xcb_xkb_per_client_flags_reply_t> reply(
+        xcb_xkb_per_client_flags_reply(program.client.connection(), flags, nullptr));
+    ASSERT_TRUE(reply);
+    keyboard.setRepeat(30, 10);
+    program.presses();
+    program.bind(virtualKey::s, commandShift, 1);
+    for (const xcb_keycode_t keyCode : {key::leftSuper, key::leftShift, key::s}) {
+        keyboard.press(keyCode);
+    }
+    EXPECT_TRUE(program.awaitRepeats(6));
+    keyboard.release(key::s);
+    EXPECT_EQ(program.presses(), Ids{1});
+
+    keyboard.press(key::s);
+    keyboard.release(key::s);
+    EXPECT_EQ(program.presses(), Ids{1});
+}
+
+TEST_F(X11HotKeysTest, a_held_key_is_one_press_though_its_modifiers_go_and_come_back) {
+    keyboard.setRepeat(30, 10);
+    program.presses();
+    program.bind(virtualKey::s, commandShift, 1);
+    program.bind(virtualKey::s, 0, 2);
+    for (const xcb_keycode_t keyCode : {key::leftSuper, key::leftShift, key::s}) {
+        keyboard.press(keyCode);
+    }
+    keyboard.release(key::leftShift);
+    keyboard.release(key::leftSuper);
+    EXPECT_TRUE(program.awaitRepeats(3));
+    keyboard.press(key::leftSuper);
+    keyboard.press(key::leftShift);
+    EXPECT_TRUE(program.awaitRepeats(3));
+    keyboard.release(key::s);
+    EXPECT_EQ(program.presses(), Ids{1});
+}
+
+TEST_F(X11HotKeysTest, a_key_that_is_held_while_it_is_registered_waits_for_its_next_press) {
+    const auto window = xcb_generate_id(program.client.connection());
+    constexpr std::uint32_t keyEvents[] = {XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE};
+    xcb_create_window(program.client.connection(), XCB_COPY_FROM_PARENT, window,
+                      program.client.root(), 0, 0, 9, 9, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
+                      XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK, keyEvents);
+    xcb_map_window(program.client.connection(), window);
+    xcb_set_input_focus(program.client.connection(), XCB_INPUT_FOCUS_POINTER_ROOT, window,
+                        XCB_CURRENT_TIME);
+    program.client.sync();
+
+    keyboard.setRepeat(30, 10);
+    for (const xcb_keycode_t keyCode : {key::leftSuper, key::leftShift, key::s}) {
+        keyboard.press(keyCode);
+    }
+    EXPECT_TRUE(program.awaitRepeats(2));
+    EXPECT_EQ(program.swallowed, 0) << "the window's own keys are left alone";
+    program.bind(virtualKey::s, commandShift, 1);
+    EXPECT_TRUE(program.awaitRepeats(4));
+    keyboard.release(key::s);
+    EXPECT_EQ(program.presses(), Ids{});
+
+    keyboard.press(key::s);
+    EXPECT_EQ(program.presses(), Ids{1});
+}
+
+TEST_F(X11HotKeysTest, a_combination_of_another_program_is_refused) {
+    Program other(server);
+    other.bind(virtualKey::s, commandShift, 1);
+    const auto registration = program.bind(virtualKey::s, commandShift, 2);
+    EXPECT_EQ(registration.status, eventHotKeyExistsErr);
+    EXPECT_FALSE(registration.ref);
+
+    EXPECT_EQ(program.bind(virtualKey::s, cmdKey, 3).status, noErr);
+    keyboard.strike({key::leftSuper, key::leftShift, key::s});
+    EXPECT_EQ(program.presses(), Ids{});
+    EXPECT_EQ(other.presses(), Ids{1});
+}
+
+TEST_F(X11HotKeysTest, a_refused_combination_leaves_nothing_half_grabbed) {
+    Client other(server.display());
+    xcb_grab_key(other.connection(), 0, other.root(), superShift | XCB_MOD_MASK_2, key::s,
+                 XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    other.sync();
+    EXPECT_EQ(program.bind(virtualKey::s, commandShift, 1).status, eventHotKeyExistsErr);
+    EXPECT_TRUE(canBeGrabbed(key::s, superShift));
+    EXPECT_TRUE(canBeGrabbed(key::s, superShift | XCB_MOD_MASK_LOCK));
+    EXPECT_TRUE(canBeGrabbed(key::s, superShift | XCB_MOD_MASK_2 | XCB_MOD_MASK_LOCK));
+    EXPECT_FALSE(canBeGrabbed(key::s, superShift | XCB_MOD_MASK_2));
+}
+
+TEST_F(X11HotKeysTest, refusals_never_reach_the_event_loop) {
+    Program other(server);
+    other.bind(virtualKey::s, commandShift, 1);
+    program.bind(virtualKey::s, commandShift, 2);
+    program.bind(virtualKey::none, commandShift, 3);
+    // The fixture fails on any error among the events.
+    EXPECT_EQ(program.presses(), Ids{});
+}
+
+TEST_F(X11HotKeysTest, a_combination_of_this_program_is_refused_too_and_stays_its_own) {
+    program.bind(virtualKey::s, commandShift, 1);
+    EXPECT_EQ(program.bind(virtualKey::s, commandShift, 2).status, eventHotKeyExistsErr);
+    keyboard.strike({key::leftSuper, key::leftShift, key::s});
+    EXPECT_EQ(program.presses(), Ids{1});
+}
+
+TEST_F(X11HotKeysTest, a_key_that_the_keyboard_lacks_is_a_bad_parameter) {
+    EXPECT_EQ(program.bind(virtualKey::none, commandShift, 1).status, paramErr);
+    EXPECT_EQ(program.bind(0xFFFFFFFF, commandShift, 1).status, paramErr);
+}
+
+TEST_F(X11HotKeysTest, a_modifier_that_the_keyboard_lacks_is_a_bad_parameter) {
+    keyboard.bindModifier(XCB_MAP_INDEX_4, {});
+    program.presses();
+    EXPECT_EQ(program.bind(virtualKey::s, commandShift, 1).status, paramErr);
+    EXPECT_EQ(program.bind(virtualKey::s, shiftKey, 1).status, noErr);
+}
+
+TEST_F(X11HotKeysTest, an_unregistered_combination_is_free_again_for_everybody) {
+    const auto registration = program.bind(virtualKey::s, commandShift, 1);
+    ASSERT_TRUE(registration.ref);
+    program.hotKeys->unregisterEventHotKey(*registration.ref);
+    keyboard.strike({key::leftSuper, key::leftShift, key::s});
+    EXPECT_EQ(program.presses(), Ids{});
+    for (const unsigned locks : {0U, unsigned{XCB_MOD_MASK_LOCK}, unsigned{XCB_MOD_MASK_2},
+                                 unsigned{XCB_MOD_MASK_LOCK | XCB_MOD_MASK_2}}) {
+        EXPECT_TRUE(canBeGrabbed(key::s, superShift | locks)) << "locks " << locks;
+    }
+    EXPECT_EQ(program.bind(virtualKey::s, commandShift, 2).status, noErr);
+}
+
+TEST_F(X11HotKeysTest, to_unregister_one_leaves_the_others) {
+    const auto registration = program.bind(virtualKey::s, commandShift, 1);
+    program.bind(virtualKey::s, cmdKey, 2);
+    program.hotKeys->unregisterEventHotKey(*registration.ref);
+    program.hotKeys->unregisterEventHotKey(*registration.ref);
+    keyboard.strike({key::leftSuper, key::s});
+    EXPECT_EQ(program.presses(), Ids{2});
+}
+
+TEST_F(X11HotKeysTest, a_program_that_ended_keeps_no_combination) {
+    auto other = std::make_unique<Program>(server);
+    other->bind(virtualKey::s, commandShift, 1);
+    other.reset();
+    EXPECT_EQ(program.bind(virtualKey::s, commandShift, 2).status, noErr);
+}
+
+TEST_F(X11HotKeysTest, its_end_gives_the_combinations_back_though_the_connection_stays) {
+    program.bind(virtualKey::s, commandShift, 1);
+    program.hotKeys.reset();
+    program.client.sync();
+    EXPECT_TRUE(canBeGrabbed(key::s, superShift));
+}
+
+TEST_F(X11HotKeysTest, another_program_that_stole_nothing_hears_nothing_of_the_hot_key) {
+    Client other(server.display());
+    const auto window = xcb_generate_id(other.connection());
+    constexpr std::uint32_t keyEvents[] = {XCB_EVENT_MASK_KEY_PRESS};
+    xcb_create_window(other.connection(), XCB_COPY_FROM_PARENT, window, other.root(), 0, 0, 9, 9, 0,
+                      XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK,
+                      keyEvents);
+    xcb_map_window(other.connection(), window);
+    xcb_set_input_focus(other.connection(), XCB_INPUT_FOCUS_POINTER_ROOT, window, XCB_CURRENT_TIME);
+    other.sync();
+    program.bind(virtualKey::s, commandShift, 1);
+    keyboard.strike({key::leftSuper, key::leftShift, key::s});
+    keyboard.strike({key::s});
+
+    std::vector<xcb_keycode_t> typed;
+    other.pump([&](const xcb_generic_event_t& event) {
+        if (eventType(event) == XCB_KEY_PRESS) {
+            typed.push_back(eventAs<xcb_key_press_event_t>(event).detail);
+        }
+    });
+    EXPECT_EQ(typed, (std::vector<xcb_keycode_t>{key::leftSuper, key::leftShift, key::s}));
+    EXPECT_EQ(program.presses(), Ids{1});
+}
+
+TEST_F(X11HotKeysTest, a_press_that_another_program_made_up_counts_for_nothing) {
+    program.bind(virtualKey::s, commandShift, 1);
+    xcb_key_press_event_t event{};
+    event.response_type = XCB_KEY_PRESS | 0x80;
+    event.detail = key::s;
+    event.event = program.client.root();
+    event.state = superShift;
+    EXPECT_FALSE(program.hotKeys->handleEvent(reinterpret_cast<const xcb_generic_event_t&>(event)));
+    EXPECT_EQ(program.presses(), Ids{});
+}
+
+TEST_F(X11HotKeysTest, hot_keys_follow_a_modifier_that_moves) {
+    program.bind(virtualKey::s, commandShift, 1);
+    keyboard.bindModifier(XCB_MAP_INDEX_4, {});
+    keyboard.bindModifier(XCB_MAP_INDEX_3, {key::leftSuper});
+    EXPECT_EQ(program.presses(), Ids{});
+    keyboard.strike({key::leftSuper, key::leftShift, key::s});
+    EXPECT_EQ(program.presses(), Ids{1});
+    EXPECT_TRUE(canBeGrabbed(key::s, superShift)) << "the old place is given back";
+}
+
+TEST_F(X11HotKeysTest, hot_keys_outlast_a_time_without_their_modifier) {
+    program.bind(virtualKey::s, commandShift, 1);
+    keyboard.bindModifier(XCB_MAP_INDEX_4, {});
+    EXPECT_EQ(program.presses(), Ids{});
+    keyboard.bindModifier(XCB_MAP_INDEX_4, {key::leftSuper});
+    EXPECT_EQ(program.presses(), Ids{});
+    keyboard.strike({key::leftSuper, key::leftShift, key::s});
+    EXPECT_EQ(program.presses(), Ids{1});
+}
+
+TEST_F(X11HotKeysTest, a_lock_modifier_that_comes_later_plays_no_part_either) {
+    program.bind(virtualKey::s, commandShift, 1);
+    keyboard.bindModifier(XCB_MAP_INDEX_3, {key::scrollLock});
+    EXPECT_EQ(program.presses(), Ids{});
+    keyboard.lock(XCB_MOD_MASK_3);
+    keyboard.strike({key::leftSuper, key::leftShift, key::s});
+    EXPECT_EQ(program.presses(), Ids{1});
+}
+
+TEST_F(X11HotKeysTest, hot_keys_follow_a_keyboard_with_another_numbering) {
+    program.bind(virtualKey::home, commandShift, 1);
+    keyboard.load("-keycodes xfree86 -layout us");
+    EXPECT_EQ(program.presses(), Ids{});
+    EXPECT_TRUE(canBeGrabbed(key::home, superShift));
+
+    constexpr xcb_keycode_t superThere = 115;
+    constexpr xcb_keycode_t homeThere = 97;
+    keyboard.strike({superThere, key::leftShift, homeThere});
+    EXPECT_EQ(program.presses(), Ids{1});
+}
+
+TEST_F(X11HotKeysTest, hot_keys_stay_at_their_place_when_the_layout_changes) {
+    program.bind(virtualKey::s, commandShift, 1);
+    keyboard.load("-rules evdev -model pc105 -layout us -variant dvorak");
+    EXPECT_EQ(program.presses(), Ids{});
+    keyboard.strike({key::leftSuper, key::leftShift, key::s});
+    EXPECT_EQ(program.presses(), Ids{1});
+}
+
+TEST_F(X11HotKeysTest, a_swap_of_alt_and_super_swaps_the_keys_and_not_the_hot_key) {
+    program.bind(virtualKey::s, commandShift, 1);
+    keyboard.load("-rules evdev -model pc105 -layout us -option altwin:swap_alt_win");
+    EXPECT_EQ(program.presses(), Ids{});
+    keyboard.strike({key::leftAlt, key::leftShift, key::s});
+    EXPECT_EQ(program.presses(), Ids{1});
+    keyboard.strike({key::leftSuper, key::leftShift, key::s});
+    EXPECT_EQ(program.presses(), Ids{});
+}
+
+TEST_F(X11HotKeysTest, a_combination_that_is_taken_after_a_change_is_tried_again_with_the_next) {
+    program.bind(virtualKey::s, commandShift, 1);
+    auto other = std::make_unique<Client>(server.display());
+    xcb_grab_key(other->connection(), 0, other->root(), XCB_MOD_MASK_3 | XCB_MOD_MASK_SHIFT, key::s,
+                 XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    other->sync();
+    keyboard.bindModifier(XCB_MAP_INDEX_4, {});
+    keyboard.bindModifier(XCB_MAP_INDEX_3, {key::leftSuper});
+    program.presses();
+    keyboard.strike({key::leftSuper, key::leftShift, key::s});
+    EXPECT_EQ(program.presses(), Ids{});
+
+    other.reset();
+    keyboard.bindModifier(XCB_MAP_INDEX_5, {key::rightSuper});
+    program.presses();
+    keyboard.strike({key::leftSuper, key::leftShift, key::s});
+    EXPECT_EQ(program.presses(), Ids{1});
+}
+
+TEST_F(X11HotKeysTest, what_the_toolkit_asked_to_hear_of_the_keyboard_it_still_hears) {
+    Client client(server.display());
+    xcb_connection_t* connection = client.connection();
+    const XcbOwned<xcb_xkb_use_extension_reply_t> use(
+        xcb_xkb_use_extension_reply(connection, xcb_xkb_use_extension(connection, 1, 0), nullptr));
+    const auto* extension = xcb_get_extension_data(connection, &xcb_xkb_id);
+    xcb_xkb_select_events(connection, XCB_XKB_ID_USE_CORE_KBD, XCB_XKB_EVENT_TYPE_STATE_NOTIFY, 0,
+                          XCB_XKB_EVENT_TYPE_STATE_NOTIFY, 0, 0, nullptr);
+    X11HotKeys hotKeys(connection, client.root());
+    keyboard.lock(XCB_MOD_MASK_LOCK);
+
+    int stateChanges = 0;
+    client.pump([&](const xcb_generic_event_t& event) {
+        EXPECT_FALSE(hotKeys.handleEvent(event));
+        if (eventType(event) == extension->first_event &&
+            eventAs<xcb_xkb_state_notify_event_t>(event).xkbType == XCB_XKB_STATE_NOTIFY) {
+            ++stateChanges;
+        }
+    });
+    EXPECT_EQ(stateChanges, 1);
+}
+
+TEST_F(X11HotKeysTest, the_event_mask_of_the_root_window_is_left_alone) {
+    program.bind(virtualKey::s, commandShift, 1);
+    const XcbOwned<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
+        program.client.connection(),
+        xcb_get_window_attributes(program.client.connection(), program.client.root()), nullptr));
+    EXPECT_EQ(attributes->your_event_mask, 0U);
+}
+
+TEST_F(X11HotKeysTest, without_a_handler_a_press_is_swallowed) {
+    Client client(server.display());
+    X11HotKeys hotKeys(client.connection(), client.root());
+    hotKeys.registerEventHotKey(virtualKey::s, commandShift, {}, EventTarget::application, 0);
+    keyboard.strike({key::leftSuper, key::leftShift, key::s});
+    int swallowed = 0;
+    client.pump([&](const auto& event) { swallowed += hotKeys.handleEvent(event) ? 1 : 0; });
+    EXPECT_EQ(swallowed, 2) << "the press and the release";
+}
+
+TEST_F(X11HotKeysTest, a_handler_that_was_removed_hears_nothing_more) {
+    Program other(server);
+    int calls = 0;
+    const auto count = [](const HotKeyEvent*, void* userData) -> OSStatus {
+        ++*static_cast<int*>(userData);
+        return noErr;
+    };
+    const auto installation =
+        other.hotKeys->installEventHandler(EventTarget::application, count, hotKeyPressed, &calls);
+    ASSERT_EQ(installation.status, noErr);
+    other.bind(virtualKey::s, commandShift, 1);
+    keyboard.strike({key::leftSuper, key::leftShift, key::s});
+    EXPECT_EQ(other.presses(), Ids{}) << "the newer handler takes the press";
+    EXPECT_EQ(calls, 1);
+
+    other.hotKeys->removeEventHandler(*installation.ref);
+    keyboard.strike({key::leftSuper, key::leftShift, key::s});
+    EXPECT_EQ(other.presses(), Ids{1});
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(X11HotKeysTest, a_handler_that_does_not_handle_a_press_leaves_it_to_the_next) {
+    const auto decline = [](const HotKeyEvent*, void*) -> OSStatus { return eventNotHandledErr; };
+    program.hotKeys->installEventHandler(EventTarget::application, decline, hotKeyPressed, nullptr);
+    program.bind(virtualKey::s, commandShift, 1);
+    keyboard.strike({key::leftSuper, key::leftShift, key::s});
+    EXPECT_EQ(program.presses(), Ids{1});
+}
+
+TEST_F(X11HotKeysTest, a_handler_for_other_events_hears_nothing_of_a_press) {
+    const auto fail = [](const HotKeyEvent*, void*) -> OSStatus {
+        ADD_FAILURE();
+        return noErr;
+    };
+    program.hotKeys->installEventHandler(EventTarget::application, fail, {kEventClassKeyboard, 6},
+                                         nullptr);
+    program.bind(virtualKey::s, commandShift, 1);
+    keyboard.strike({key::leftSuper, key::leftShift, key::s});
+    EXPECT_EQ(program.presses(), Ids{1});
+}
+
+TEST_F(X11HotKeysTest, a_missing_handler_is_a_bad_parameter) {
+    const auto installation = program.hotKeys->installEventHandler(EventTarget::application,
+                                                                   nullptr, hotKeyPressed, nullptr);
+    EXPECT_EQ(installation.status, paramErr);
+    EXPECT_FALSE(installation.ref);
+}
+
+} // namespace quillon::test
