@@ -1,0 +1,138 @@
+#include "desktop/program/ProgramTest.h"
+
+namespace quillon::test {
+namespace {
+
+class Keyboard : public ProgramTest {
+protected:
+    Keyboard() {
+        below.activate();
+        EXPECT_TRUE(eventually([this] { return below.hasKeyboard(); }));
+    }
+
+    /// Whether any pixel of the row holds ink between the two columns.
+    bool hasInkInRow(int y, int left, int right) {
+        for (int x = left; x < right; ++x) {
+            if (isNear(screen.pixel({x, y}), kInk, 60)) {
+                return true;
+            }
+        }
+        return false;
+    }
+    bool showsText(Pixel topLeft) {
+        return eventually([&] {
+            for (int y = topLeft.y + 8; y < topLeft.y + 26; y += 2) {
+                if (hasInkInRow(y, topLeft.x, topLeft.x + 60)) {
+                    return true;
+                }
+            }
+            return false;
+        });
+    }
+    void openFieldAt(Pixel place) {
+        prepareTool(DrawingTool::text);
+        startAnnotating();
+        input.click(place);
+        EXPECT_TRUE(eventually([this] { return !below.hasKeyboard(); }));
+        // The field itself: white, and focused.
+        EXPECT_TRUE(
+            screen.waitForPixel({place.x + 80, place.y}, [](Rgb seen) { return seen.red > 200; }));
+    }
+};
+
+TEST_F(Keyboard, switching_annotation_on_leaves_the_keyboard_where_it_is) {
+    startAnnotating();
+    EXPECT_TRUE(below.hasKeyboard());
+}
+
+TEST_F(Keyboard, the_first_press_takes_the_keyboard_and_the_end_of_annotation_gives_it_back) {
+    startAnnotating();
+    input.click({200, 200});
+    EXPECT_TRUE(eventually([this] { return !below.hasKeyboard(); }));
+    toggleAnnotation();
+    EXPECT_TRUE(eventually([this] { return below.hasKeyboard(); }));
+    const int before = below.keyCount();
+    input.tap("a");
+    EXPECT_TRUE(eventually([&] { return below.keyCount() == before + 1; }));
+}
+
+TEST_F(Keyboard, text_is_committed_by_return_right_and_below_of_the_press) {
+    openFieldAt({300, 200});
+    input.type("Hill");
+    input.tap("Return");
+    EXPECT_TRUE(showsText({300, 200}));
+    EXPECT_TRUE(showsBackground({280, 200}));
+}
+
+TEST_F(Keyboard, escape_keeps_what_was_typed) {
+    openFieldAt({300, 200});
+    input.type("Hill");
+    input.tap("Escape");
+    EXPECT_TRUE(showsBackground({280, 200}));
+    EXPECT_TRUE(showsText({300, 200}));
+}
+
+TEST_F(Keyboard, a_click_elsewhere_commits_the_text_and_opens_no_other_field) {
+    openFieldAt({300, 200});
+    input.type("Hill");
+    input.click({600, 400});
+    EXPECT_TRUE(showsText({300, 200}));
+    EXPECT_TRUE(showsBackground({600, 400}));
+}
+
+TEST_F(Keyboard, an_empty_field_leaves_nothing) {
+    openFieldAt({300, 200});
+    input.tap("Return");
+    EXPECT_TRUE(showsBackground({300, 200}));
+    EXPECT_TRUE(showsBackground({306, 212}));
+}
+
+TEST_F(Keyboard, text_still_being_typed_when_annotation_goes_off_keeps_the_keyboard_to_its_end) {
+    openFieldAt({300, 200});
+    input.type("Hi");
+    toggleAnnotation();
+    ASSERT_TRUE(eventually([this] { return !takesPointer(); }));
+    input.type("ll");
+    EXPECT_EQ(below.keyCount(), 0);
+    input.tap("Return");
+    EXPECT_TRUE(showsText({300, 200}));
+    EXPECT_TRUE(eventually([this] { return below.hasKeyboard(); }));
+}
+
+TEST_F(Keyboard, clear_drops_the_text_that_is_being_typed) {
+    openFieldAt({300, 200});
+    input.type("Hill");
+    clear();
+    EXPECT_TRUE(showsBackground({300, 200}));
+    EXPECT_TRUE(showsBackground({306, 212}));
+}
+
+TEST_F(Keyboard, a_held_shortcut_fires_once) {
+    start();
+    input.keyDown("Super_L");
+    input.keyDown("Shift_L");
+    input.keyDown("s");
+    ASSERT_TRUE(eventually([this] { return takesPointer(); }));
+    // Longer than the server's delay before a key repeats.
+    EXPECT_TRUE(stays([this] { return takesPointer(); }, std::chrono::milliseconds(1200)));
+    input.keyUp("s");
+    input.keyUp("Shift_L");
+    input.keyUp("Super_L");
+}
+
+TEST_F(Keyboard, shortcuts_work_with_num_lock_and_caps_lock_on) {
+    start();
+    input.tap("Num_Lock");
+    toggleAnnotation();
+    EXPECT_TRUE(eventually([this] { return takesPointer(); }));
+    input.tap("Caps_Lock");
+    toggleAnnotation();
+    EXPECT_TRUE(eventually([this] { return !takesPointer(); }));
+    input.tap("Num_Lock");
+    toggleAnnotation();
+    EXPECT_TRUE(eventually([this] { return takesPointer(); }));
+    input.tap("Caps_Lock");
+}
+
+} // namespace
+} // namespace quillon::test

@@ -1,0 +1,86 @@
+#include "desktop/program/ProgramTest.h"
+
+namespace quillon::test {
+namespace {
+
+using Modes = ProgramTest;
+
+TEST_F(Modes, before_annotation_every_click_reaches_the_window_below) {
+    start();
+    input.click({200, 200});
+    EXPECT_TRUE(eventually([this] { return below.pressCount() == 1; }));
+}
+
+TEST_F(Modes, annotation_takes_the_clicks_and_gives_them_back_with_the_drawing_still_there) {
+    prepareTool(DrawingTool::pen);
+    startAnnotating();
+    input.drag({{100, 100}, {300, 100}});
+    ASSERT_TRUE(showsInk({200, 100}));
+    EXPECT_EQ(below.pressCount(), 0);
+
+    toggleAnnotation();
+    ASSERT_TRUE(eventually([this] { return !takesPointer(); }));
+    input.click({200, 100});
+    EXPECT_TRUE(eventually([this] { return below.pressCount() == 1; }));
+    EXPECT_TRUE(showsInk({200, 100}));
+}
+
+TEST_F(Modes, the_whiteboard_covers_the_screen_and_can_be_drawn_on) {
+    prepareTool(DrawingTool::pen);
+    start();
+    toggleWhiteboard();
+    // White at 0.9 over the colour below.
+    const Rgb sheet{233, 235, 238};
+    EXPECT_TRUE(screen.waitForColor({450, 300}, sheet));
+    EXPECT_TRUE(screen.waitForColor({2, 2}, sheet));
+    input.drag({{100, 100}, {300, 100}});
+    EXPECT_TRUE(showsInk({200, 100}));
+}
+
+TEST_F(Modes, the_whiteboard_wipes_the_drawing_on_its_way_in_and_out_and_leaves_annotation_on) {
+    prepareTool(DrawingTool::pen);
+    startAnnotating();
+    input.drag({{100, 100}, {300, 100}});
+    ASSERT_TRUE(showsInk({200, 100}));
+    toggleWhiteboard();
+    ASSERT_TRUE(screen.waitForPixel({450, 300}, [](Rgb seen) { return seen.red > 225; }));
+    EXPECT_FALSE(isNear(screen.pixel({200, 100}), kInk));
+    input.drag({{100, 200}, {300, 200}});
+    ASSERT_TRUE(showsInk({200, 200}));
+    toggleWhiteboard();
+    EXPECT_TRUE(showsBackground({200, 200}));
+    EXPECT_TRUE(takesPointer());
+}
+
+TEST_F(Modes, annotation_switched_off_hides_the_whiteboard_and_keeps_its_mode) {
+    start();
+    toggleWhiteboard();
+    ASSERT_TRUE(screen.waitForPixel({450, 300}, [](Rgb seen) { return seen.red > 225; }));
+    toggleAnnotation();
+    EXPECT_TRUE(showsBackground({450, 300}));
+    toggleAnnotation();
+    EXPECT_TRUE(screen.waitForPixel({450, 300}, [](Rgb seen) { return seen.red > 225; }));
+}
+
+TEST_F(Modes, a_start_with_annotation_stored_on_takes_the_pointer_by_itself) {
+    prepareTool(DrawingTool::pen);
+    prepare([](AppSettings& settings) { settings.isAnnotationEnabled = true; });
+    start();
+    ASSERT_TRUE(eventually([this] { return takesPointer(); }));
+    input.drag({{100, 100}, {300, 100}});
+    EXPECT_TRUE(showsInk({200, 100}));
+}
+
+TEST_F(Modes, the_overlay_stays_above_a_window_that_comes_later) {
+    prepareTool(DrawingTool::pen);
+    startAnnotating();
+    input.drag({{100, 100}, {300, 100}});
+    ASSERT_TRUE(showsInk({200, 100}));
+    ProbeWindow later(desktop.display(), {50, 50, 400, 300}, {20, 120, 20});
+    later.activate();
+    EXPECT_TRUE(screen.waitForColor({200, 130}, {20, 120, 20}));
+    EXPECT_TRUE(showsInk({200, 100}));
+}
+
+} // namespace
+} // namespace quillon::test

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "desktop/support/InputDriver.h"
+#include "desktop/support/ProbeWindow.h"
+#include "desktop/support/Program.h"
+#include "desktop/support/ScreenReader.h"
+#include "desktop/support/StoredSettings.h"
+#include "desktop/support/VirtualDesktop.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace quillon::test {
+
+inline constexpr Rgb kBackground{40, 60, 90};
+inline constexpr Rgb kInk{255, 0, 0};
+
+/// A desktop with one window of another program over all of it, on which the real program is
+/// tried.
+class ProgramTest : public testing::Test {
+protected:
+    ProgramTest() = default;
+
+    /// Changes the settings while the program does not run. The colour is red, unless changed.
+    void prepare(const std::function<void(AppSettings&)>& change) {
+        withStoredSettings(desktop.configFolder(), change);
+    }
+    void prepareTool(DrawingTool tool, CGFloat lineWidth = 8) {
+        prepare([&](AppSettings& settings) {
+            settings.selectedTool = tool;
+            settings.selectedColor = Color(1, 0, 0);
+            settings.lineWidth = lineWidth;
+        });
+    }
+    template <typename T>
+    T stored(std::function<T(AppSettings&)> read) {
+        std::optional<T> value;
+        prepare([&](AppSettings& settings) { value = read(settings); });
+        return *value;
+    }
+
+    Program& start() {
+        program = std::make_unique<Program>(desktop);
+        EXPECT_TRUE(program->isReady()) << program->process().standardError();
+        return *program;
+    }
+    void stop() { EXPECT_EQ(program->terminate(), 0); }
+
+    /// Starts the program and switches annotation on.
+    void startAnnotating() {
+        start();
+        toggleAnnotation();
+        EXPECT_TRUE(eventually([this] { return takesPointer(); }));
+    }
+
+    void toggleAnnotation() { input.chord({"Super_L", "Shift_L", "s"}); }
+    void toggleWhiteboard() { input.chord({"Super_L", "Shift_L", "w"}); }
+    void clear() { input.chord({"Super_L", "Shift_L", "c"}); }
+
+    /// Whether the pointer meets another window than the one below, where it stands now.
+    bool takesPointer() {
+        const XOwned<xcb_query_pointer_reply_t> pointer(xcb_query_pointer_reply(
+            desktop.connection().get(),
+            xcb_query_pointer(desktop.connection().get(), desktop.connection().root()), nullptr));
+        return pointer && pointer->child != XCB_NONE && pointer->child != childBefore;
+    }
+
+    bool showsInk(Pixel place) { return screen.waitForColor(place, kInk); }
+    bool showsBackground(Pixel place) { return screen.waitForColor(place, kBackground); }
+
+    VirtualDesktop desktop{{.width = 900, .height = 600}};
+    InputDriver input{desktop.connection()};
+    ScreenReader screen{desktop.connection()};
+    ProbeWindow below{desktop.display(), {0, 0, 900, 600}, kBackground};
+    std::unique_ptr<Program> program;
+    /// The window under the pointer before the program started.
+    xcb_window_t childBefore = [this] {
+        const XOwned<xcb_query_pointer_reply_t> pointer(xcb_query_pointer_reply(
+            desktop.connection().get(),
+            xcb_query_pointer(desktop.connection().get(), desktop.connection().root()), nullptr));
+        return pointer->child;
+    }();
+};
+
+} // namespace quillon::test

@@ -1,0 +1,58 @@
+#include "desktop/program/ProgramTest.h"
+
+#include <fstream>
+
+namespace quillon::test {
+namespace {
+
+class TrayItem : public ProgramTest {
+protected:
+    void startTray() {
+        const std::string settings = desktop.configFolder() + "/tray.conf";
+        std::ofstream(settings) << "panel_items = S\npanel_size = 100% 30\n"
+                                   "panel_position = top center horizontal\nsystray_padding = 4\n"
+                                   "rounded = 0\nbackground_color = #202020 100\n"
+                                   "panel_background_id = 1\n";
+        desktop.start({"tint2", "-c", settings});
+        ASSERT_TRUE(eventually([this] {
+            return desktop.connection().selectionOwner("_NET_SYSTEM_TRAY_S0") != XCB_NONE;
+        }));
+    }
+
+    /// Where something lighter than the panel stands in its middle row.
+    std::optional<Pixel> findItem() {
+        std::optional<Pixel> found;
+        eventually([&] {
+            for (int y = 8; y < 24 && !found; y += 2) {
+                for (int x = 0; x < 900 && !found; ++x) {
+                    if (screen.pixel({x, y}).red > 180) {
+                        found = Pixel{x, y};
+                    }
+                }
+            }
+            return found.has_value();
+        });
+        return found;
+    }
+};
+
+TEST_F(TrayItem, a_click_opens_the_menu_and_quit_ends_the_program) {
+    startTray();
+    start();
+    const auto item = findItem();
+    ASSERT_TRUE(item);
+    input.click(*item);
+    // The menu has the keyboard while it is open.
+    ASSERT_TRUE(eventually([this] { return program->process().isRunning(); }));
+    input.chord({"Control_L", "q"});
+    EXPECT_EQ(program->process().waitForExit(), 0);
+}
+
+TEST_F(TrayItem, it_appears_when_the_tray_comes_up_after_the_program) {
+    start();
+    startTray();
+    EXPECT_TRUE(findItem());
+}
+
+} // namespace
+} // namespace quillon::test
