@@ -1,108 +1,14 @@
-#include "desktop/x11/X11HotKeys.h"
-
-#include "desktop/x11/Client.h"
-#include "desktop/x11/ServerAlone.h"
-#include "desktop/x11/TestKeyboard.h"
-
-#include <gtest/gtest.h>
+#include "desktop/x11/HotKeyProgram.h"
 
 #include <memory>
-#include <optional>
 #include <vector>
 
 namespace quillon::test {
-
-namespace {
 
 using desktop::eventAs;
 using desktop::eventType;
 using desktop::X11HotKeys;
 using desktop::XcbOwned;
-
-constexpr std::uint32_t commandShift = cmdKey | shiftKey;
-constexpr std::uint32_t signature = 0x4F52564C;
-constexpr EventTypeSpec hotKeyPressed{kEventClassKeyboard, kEventHotKeyPressed};
-
-/// Virtual key codes.
-namespace virtualKey {
-constexpr std::uint32_t s = 1;
-constexpr std::uint32_t h = 4;
-constexpr std::uint32_t c = 8;
-constexpr std::uint32_t home = 115;
-constexpr std::uint32_t none = 52;
-} // namespace virtualKey
-
-using Ids = std::vector<std::uint32_t>;
-
-/// A program with hot keys, which notes the ids of those that were pressed.
-struct Program {
-    explicit Program(const VirtualDesktop& server)
-        : client(server.display())
-        , hotKeys(std::in_place, client.connection(), client.root()) {
-        hotKeys->installEventHandler(EventTarget::application, &Program::handle, hotKeyPressed,
-                                     this);
-    }
-
-    HotKeys::Registration bind(std::uint32_t keyCode, std::uint32_t modifiers, std::uint32_t id) {
-        return hotKeys->registerEventHotKey(keyCode, modifiers, {signature, id},
-                                            EventTarget::application, 0);
-    }
-
-    /// The ids of the hot keys that were pressed since the last call.
-    Ids presses() {
-        client.pump([this](const xcb_generic_event_t& event) { take(event); });
-        return std::exchange(pressed, {});
-    }
-
-    /// Waits until so many repeats of a held key came.
-    bool awaitRepeats(int count) {
-        const int wanted = keyPresses + count;
-        return client.pumpUntil([&] { return keyPresses >= wanted; },
-                                [this](const xcb_generic_event_t& event) { take(event); });
-    }
-
-    void take(const xcb_generic_event_t& event) {
-        EXPECT_NE(event.response_type, 0) << "an error reached the event loop";
-        if (eventType(event) == XCB_KEY_PRESS) {
-            ++keyPresses;
-        }
-        swallowed += hotKeys->handleEvent(event) ? 1 : 0;
-    }
-
-    static OSStatus handle(const HotKeyEvent* event, void* userData) {
-        auto& program = *static_cast<Program*>(userData);
-        const auto id = program.hotKeys->getEventParameter(*event);
-        EXPECT_TRUE(id && id->signature == signature);
-        program.pressed.push_back(id ? id->id : 0);
-        return noErr;
-    }
-
-    Client client;
-    std::optional<X11HotKeys> hotKeys;
-    Ids pressed;
-    int keyPresses = 0;
-    int swallowed = 0;
-};
-
-class X11HotKeysTest : public testing::Test {
-protected:
-    /// Whether a program that knows nothing of this one could grab exactly this.
-    bool canBeGrabbed(xcb_keycode_t keyCode, unsigned modifiers) {
-        Client other(server.display());
-        const auto cookie = xcb_grab_key_checked(other.connection(), 0, other.root(),
-                                                 static_cast<std::uint16_t>(modifiers), keyCode,
-                                                 XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
-        return !desktop::requestError(other.connection(), cookie);
-    }
-
-    VirtualDesktop server{serverAlone};
-    TestKeyboard keyboard{server.display()};
-    Program program{server};
-};
-
-constexpr unsigned superShift = XCB_MOD_MASK_4 | XCB_MOD_MASK_SHIFT;
-
-} // namespace
 
 TEST_F(X11HotKeysTest, a_press_reaches_the_handler_whoever_has_the_keyboard) {
     EXPECT_EQ(program.bind(virtualKey::s, commandShift, 7).status, noErr);
@@ -272,7 +178,7 @@ TEST_F(X11HotKeysTest, a_key_that_is_held_while_it_is_registered_waits_for_its_n
 }
 
 TEST_F(X11HotKeysTest, a_combination_of_another_program_is_refused) {
-    Program other(server);
+    HotKeyProgram other(server);
     other.bind(virtualKey::s, commandShift, 1);
     const auto registration = program.bind(virtualKey::s, commandShift, 2);
     EXPECT_EQ(registration.status, eventHotKeyExistsErr);
@@ -297,7 +203,7 @@ TEST_F(X11HotKeysTest, a_refused_combination_leaves_nothing_half_grabbed) {
 }
 
 TEST_F(X11HotKeysTest, refusals_never_reach_the_event_loop) {
-    Program other(server);
+    HotKeyProgram other(server);
     other.bind(virtualKey::s, commandShift, 1);
     program.bind(virtualKey::s, commandShift, 2);
     program.bind(virtualKey::none, commandShift, 3);
@@ -347,7 +253,7 @@ TEST_F(X11HotKeysTest, to_unregister_one_leaves_the_others) {
 }
 
 TEST_F(X11HotKeysTest, a_program_that_ended_keeps_no_combination) {
-    auto other = std::make_unique<Program>(server);
+    auto other = std::make_unique<HotKeyProgram>(server);
     other->bind(virtualKey::s, commandShift, 1);
     other.reset();
     EXPECT_EQ(program.bind(virtualKey::s, commandShift, 2).status, noErr);
@@ -395,84 +301,6 @@ TEST_F(X11HotKeysTest, a_press_that_another_program_made_up_counts_for_nothing) 
     EXPECT_EQ(program.presses(), Ids{});
 }
 
-TEST_F(X11HotKeysTest, hot_keys_follow_a_modifier_that_moves) {
-    program.bind(virtualKey::s, commandShift, 1);
-    keyboard.bindModifier(XCB_MAP_INDEX_4, {});
-    keyboard.bindModifier(XCB_MAP_INDEX_3, {key::leftSuper});
-    EXPECT_EQ(program.presses(), Ids{});
-    keyboard.strike({key::leftSuper, key::leftShift, key::s});
-    EXPECT_EQ(program.presses(), Ids{1});
-    EXPECT_TRUE(canBeGrabbed(key::s, superShift)) << "the old place is given back";
-}
-
-TEST_F(X11HotKeysTest, hot_keys_outlast_a_time_without_their_modifier) {
-    program.bind(virtualKey::s, commandShift, 1);
-    keyboard.bindModifier(XCB_MAP_INDEX_4, {});
-    EXPECT_EQ(program.presses(), Ids{});
-    keyboard.bindModifier(XCB_MAP_INDEX_4, {key::leftSuper});
-    EXPECT_EQ(program.presses(), Ids{});
-    keyboard.strike({key::leftSuper, key::leftShift, key::s});
-    EXPECT_EQ(program.presses(), Ids{1});
-}
-
-TEST_F(X11HotKeysTest, a_lock_modifier_that_comes_later_plays_no_part_either) {
-    program.bind(virtualKey::s, commandShift, 1);
-    keyboard.bindModifier(XCB_MAP_INDEX_3, {key::scrollLock});
-    EXPECT_EQ(program.presses(), Ids{});
-    keyboard.lock(XCB_MOD_MASK_3);
-    keyboard.strike({key::leftSuper, key::leftShift, key::s});
-    EXPECT_EQ(program.presses(), Ids{1});
-}
-
-TEST_F(X11HotKeysTest, hot_keys_follow_a_keyboard_with_another_numbering) {
-    program.bind(virtualKey::home, commandShift, 1);
-    keyboard.load("-keycodes xfree86 -layout us");
-    EXPECT_EQ(program.presses(), Ids{});
-    EXPECT_TRUE(canBeGrabbed(key::home, superShift));
-
-    constexpr xcb_keycode_t superThere = 115;
-    constexpr xcb_keycode_t homeThere = 97;
-    keyboard.strike({superThere, key::leftShift, homeThere});
-    EXPECT_EQ(program.presses(), Ids{1});
-}
-
-TEST_F(X11HotKeysTest, hot_keys_stay_at_their_place_when_the_layout_changes) {
-    program.bind(virtualKey::s, commandShift, 1);
-    keyboard.load("-rules evdev -model pc105 -layout us -variant dvorak");
-    EXPECT_EQ(program.presses(), Ids{});
-    keyboard.strike({key::leftSuper, key::leftShift, key::s});
-    EXPECT_EQ(program.presses(), Ids{1});
-}
-
-TEST_F(X11HotKeysTest, a_swap_of_alt_and_super_swaps_the_keys_and_not_the_hot_key) {
-    program.bind(virtualKey::s, commandShift, 1);
-    keyboard.load("-rules evdev -model pc105 -layout us -option altwin:swap_alt_win");
-    EXPECT_EQ(program.presses(), Ids{});
-    keyboard.strike({key::leftAlt, key::leftShift, key::s});
-    EXPECT_EQ(program.presses(), Ids{1});
-    keyboard.strike({key::leftSuper, key::leftShift, key::s});
-    EXPECT_EQ(program.presses(), Ids{});
-}
-
-TEST_F(X11HotKeysTest, a_combination_that_is_taken_after_a_change_is_tried_again_with_the_next) {
-    program.bind(virtualKey::s, commandShift, 1);
-    auto other = std::make_unique<Client>(server.display());
-    xcb_grab_key(other->connection(), 0, other->root(), XCB_MOD_MASK_3 | XCB_MOD_MASK_SHIFT, key::s,
-                 XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
-    other->sync();
-    keyboard.bindModifier(XCB_MAP_INDEX_4, {});
-    keyboard.bindModifier(XCB_MAP_INDEX_3, {key::leftSuper});
-    program.presses();
-    keyboard.strike({key::leftSuper, key::leftShift, key::s});
-    EXPECT_EQ(program.presses(), Ids{});
-
-    other.reset();
-    keyboard.bindModifier(XCB_MAP_INDEX_5, {key::rightSuper});
-    program.presses();
-    keyboard.strike({key::leftSuper, key::leftShift, key::s});
-    EXPECT_EQ(program.presses(), Ids{1});
-}
-
 TEST_F(X11HotKeysTest, what_the_toolkit_asked_to_hear_of_the_keyboard_it_still_hears) {
     Client client(server.display());
     xcb_connection_t* connection = client.connection();
@@ -514,7 +342,7 @@ TEST_F(X11HotKeysTest, without_a_handler_a_press_is_swallowed) {
 }
 
 TEST_F(X11HotKeysTest, a_handler_that_was_removed_hears_nothing_more) {
-    Program other(server);
+    HotKeyProgram other(server);
     int calls = 0;
     const auto count = [](const HotKeyEvent*, void* userData) -> OSStatus {
         ++*static_cast<int*>(userData);
