@@ -12,8 +12,7 @@ namespace quillon::desktop {
 namespace {
 
 constexpr xcb_xkb_device_spec_t coreKeyboard = XCB_XKB_ID_USE_CORE_KBD;
-constexpr std::uint32_t keyNameDetails =
-    XCB_XKB_NAME_DETAIL_KEY_NAMES | XCB_XKB_NAME_DETAIL_KEY_ALIASES;
+constexpr std::uint32_t keyNames = XCB_XKB_NAME_DETAIL_KEY_NAMES;
 
 /// Every connection must say this before its other requests to the extension; to say it again is
 /// harmless.
@@ -34,18 +33,10 @@ std::optional<KeyTable> keyTableFrom(const xcb_xkb_get_names_reply_t& reply) {
         xcb_xkb_get_names_value_list(&reply), reply.nTypes, reply.indicators, reply.virtualMods,
         reply.groupNames, reply.nKeys, reply.nKeyAliases, reply.nRadioGroups, reply.which, &list);
     KeyTable::Names names;
-    if ((reply.which & XCB_XKB_NAME_DETAIL_KEY_NAMES) != 0) {
+    if ((reply.which & keyNames) != 0) {
         unsigned keyCode = reply.firstKey;
         for (const auto& key : std::span(list.keyNames, reply.nKeys)) {
             names.emplace(nameIn(key.name), static_cast<xcb_keycode_t>(keyCode++));
-        }
-    }
-    if ((reply.which & XCB_XKB_NAME_DETAIL_KEY_ALIASES) != 0) {
-        for (const auto& alias : std::span(list.keyAliases, reply.nKeyAliases)) {
-            const auto real = names.find(nameIn(alias.real));
-            if (real != names.end()) {
-                names.emplace(nameIn(alias.alias), real->second);
-            }
         }
     }
     names.erase("");
@@ -93,7 +84,7 @@ KeyboardMap KeyboardMap::read(xcb_connection_t* connection) {
     xcb_xkb_get_controls_cookie_t controls{};
     if (hasExtension) {
         useExtension(connection);
-        names = xcb_xkb_get_names(connection, coreKeyboard, keyNameDetails);
+        names = xcb_xkb_get_names(connection, coreKeyboard, keyNames);
         controls = xcb_xkb_get_controls(connection, coreKeyboard);
     }
     const auto modifiers = xcb_get_modifier_mapping(connection);
@@ -142,7 +133,7 @@ void selectKeyboardChanges(xcb_connection_t* connection) {
     details.newKeyboardDetails = details.affectNewKeyboard;
     details.affectCtrls = XCB_XKB_BOOL_CTRL_REPEAT_KEYS;
     details.ctrlDetails = details.affectCtrls;
-    details.affectNames = keyNameDetails;
+    details.affectNames = keyNames;
     details.namesDetails = details.affectNames;
     const auto cookie = xcb_xkb_select_events_aux_checked(connection, coreKeyboard, which, 0, 0,
                                                           mapParts, mapParts, &details);

@@ -14,8 +14,8 @@ struct VirtualKey {
     /// The virtual key code: the number of the place on the ANSI layout.
     std::uint32_t code;
     /// What the keyboard extension calls the place, the usual name first. At most four letters
-    /// each; the second is empty when there is no other.
-    std::array<std::string_view, 2> names;
+    /// each; the last are empty when there are fewer.
+    std::array<std::string_view, 3> names;
     /// The X key code of the place in the evdev numbering.
     xcb_keycode_t evdevKeyCode;
 };

@@ -13,8 +13,8 @@ constexpr std::uint32_t signature = 0x4F52564C;
 HotKeyProgram::HotKeyProgram(const VirtualDesktop& desktop)
     : client(desktop.display())
     , hotKeys(std::in_place, client.connection(), client.root()) {
-    hotKeys->installEventHandler(EventTarget::application, &HotKeyProgram::handle, hotKeyPressed,
-                                 this);
+    installation = hotKeys->installEventHandler(EventTarget::application, &HotKeyProgram::handle,
+                                                hotKeyPressed, this);
 }
 
 HotKeys::Registration HotKeyProgram::bind(std::uint32_t keyCode, std::uint32_t modifiers,

@@ -44,6 +44,8 @@ public:
 
     Client client;
     std::optional<desktop::X11HotKeys> hotKeys;
+    /// Of the handler that notes the presses.
+    HotKeys::Installation installation;
     /// How many events the hot keys kept from going further.
     int swallowed = 0;
 

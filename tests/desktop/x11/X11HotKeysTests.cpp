@@ -76,22 +76,27 @@ TEST_F(X11HotKeysTest, the_lock_keys_play_no_part) {
     }
 }
 
+// Of the key that activates a grab the server tells only the modifiers, of a second one that is
+// pressed meanwhile the whole state.
+
 TEST_F(X11HotKeysTest, the_current_layout_of_several_plays_no_part) {
     keyboard.load("-rules evdev -model pc105 -layout us,ru");
     program.presses();
     program.bind(virtualKey::s, commandShift, 1);
+    program.bind(virtualKey::h, commandShift, 2);
     for (const std::uint8_t group : {std::uint8_t{0}, std::uint8_t{1}}) {
         keyboard.lockGroup(group);
-        keyboard.strike({key::leftSuper, key::leftShift, key::s});
-        EXPECT_EQ(program.presses(), Ids{1}) << "layout " << int{group};
+        keyboard.strike({key::leftSuper, key::leftShift, key::s, key::h});
+        EXPECT_EQ(program.presses(), (Ids{1, 2})) << "layout " << int{group};
     }
 }
 
 TEST_F(X11HotKeysTest, a_pressed_pointer_button_plays_no_part) {
     program.bind(virtualKey::s, commandShift, 1);
+    program.bind(virtualKey::h, commandShift, 2);
     keyboard.pressButton(1);
-    keyboard.strike({key::leftSuper, key::leftShift, key::s});
-    EXPECT_EQ(program.presses(), Ids{1});
+    keyboard.strike({key::leftSuper, key::leftShift, key::s, key::h});
+    EXPECT_EQ(program.presses(), (Ids{1, 2}));
 }
 
 TEST_F(X11HotKeysTest, a_held_key_is_one_press_though_each_repeat_comes_with_a_release) {
@@ -360,6 +365,19 @@ TEST_F(X11HotKeysTest, a_handler_that_was_removed_hears_nothing_more) {
     keyboard.strike({key::leftSuper, key::leftShift, key::s});
     EXPECT_EQ(other.presses(), Ids{1});
     EXPECT_EQ(calls, 1);
+}
+
+TEST_F(X11HotKeysTest, a_handler_that_another_one_removes_during_a_press_hears_nothing_of_it) {
+    const auto removeTheOlder = [](const HotKeyEvent*, void* userData) -> OSStatus {
+        auto& hotKeyProgram = *static_cast<HotKeyProgram*>(userData);
+        hotKeyProgram.hotKeys->removeEventHandler(*hotKeyProgram.installation.ref);
+        return eventNotHandledErr;
+    };
+    program.hotKeys->installEventHandler(EventTarget::application, removeTheOlder, hotKeyPressed,
+                                         &program);
+    program.bind(virtualKey::s, commandShift, 1);
+    keyboard.strike({key::leftSuper, key::leftShift, key::s});
+    EXPECT_EQ(program.presses(), Ids{});
 }
 
 TEST_F(X11HotKeysTest, a_handler_that_does_not_handle_a_press_leaves_it_to_the_next) {
