@@ -118,11 +118,18 @@ std::uint8_t keyboardExtensionEvent(xcb_connection_t* connection) {
     return extension && extension->present != 0 ? extension->first_event : std::uint8_t{0};
 }
 
-void selectKeyboardChanges(xcb_connection_t* connection) {
+void listenToKeyboard(xcb_connection_t* connection) {
     if (keyboardExtensionEvent(connection) == 0) {
         return;
     }
     useExtension(connection);
+    // Without these flags a key event of a grab tells modifiers that stand in for the layout.
+    constexpr std::uint32_t stateAsItIs = XCB_XKB_PER_CLIENT_FLAG_GRABS_USE_XKB_STATE |
+                                          XCB_XKB_PER_CLIENT_FLAG_LOOKUP_STATE_WHEN_GRABBED;
+    const auto flags =
+        xcb_xkb_per_client_flags(connection, coreKeyboard, stateAsItIs, stateAsItIs, 0, 0, 0);
+    xcb_discard_reply(connection, flags.sequence);
+
     constexpr std::uint16_t which =
         XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY | XCB_XKB_EVENT_TYPE_MAP_NOTIFY |
         XCB_XKB_EVENT_TYPE_CONTROLS_NOTIFY | XCB_XKB_EVENT_TYPE_NAMES_NOTIFY;

@@ -25,9 +25,10 @@ struct KeyboardMap {
 /// The first event code of the keyboard extension, or zero when the server has none.
 std::uint8_t keyboardExtensionEvent(xcb_connection_t* connection);
 
-/// Asks to hear, on this connection, when anything changes that a `KeyboardMap` tells. What else
-/// was asked for on the connection stays as it is.
-void selectKeyboardChanges(xcb_connection_t* connection);
+/// Asks to hear, on this connection, when anything changes that a `KeyboardMap` tells, and for key
+/// events of grabs that tell the modifiers as they are. What else was asked for on the connection
+/// stays as it is.
+void listenToKeyboard(xcb_connection_t* connection);
 
 /// Whether an event says that a `KeyboardMap` may be out of date.
 bool isKeyboardChange(const xcb_generic_event_t& event, std::uint8_t extensionEvent);

@@ -29,7 +29,7 @@ X11HotKeys::X11HotKeys(xcb_connection_t* connection, xcb_window_t root)
     , m_root(root)
     , m_extensionEvent(keyboardExtensionEvent(connection)) {
     // Asked for before the first reading, so that no change falls in between.
-    selectKeyboardChanges(connection);
+    listenToKeyboard(connection);
     readKeyboard();
 }
 

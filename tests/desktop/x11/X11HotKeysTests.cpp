@@ -76,8 +76,8 @@ TEST_F(X11HotKeysTest, the_lock_keys_play_no_part) {
     }
 }
 
-// Of the key that activates a grab the server tells only the modifiers, of a second one that is
-// pressed meanwhile the whole state.
+// Of the key that begins a grab the server tells the modifiers alone, of a second one that is
+// pressed meanwhile the layout too.
 
 TEST_F(X11HotKeysTest, the_current_layout_of_several_plays_no_part) {
     keyboard.load("-rules evdev -model pc105 -layout us,ru");
