@@ -102,17 +102,38 @@ void VirtualDesktop::startCompositor() {
 
 void VirtualDesktop::startWindowManager() {
     start({"openbox"});
-    const auto isReady = [this] {
-        const auto cookie =
-            xcb_get_property(m_connection->get(), 0, m_connection->root(),
-                             m_connection->atom("_NET_SUPPORTING_WM_CHECK"), XCB_ATOM_WINDOW, 0, 1);
-        const XOwned<xcb_get_property_reply_t> reply(
-            xcb_get_property_reply(m_connection->get(), cookie, nullptr));
-        return reply && xcb_get_property_value_length(reply.get()) > 0;
-    };
-    if (!eventually(isReady)) {
+    // A window manager that is still starting may overlook a window, so one is offered until it
+    // is taken up.
+    const bool isReady = eventually([this] { return managesNewWindow(); });
+    if (!isReady) {
         throw std::runtime_error("the window manager did not start");
     }
+}
+
+bool VirtualDesktop::managesNewWindow() {
+    xcb_connection_t* connection = m_connection->get();
+    const xcb_window_t root = m_connection->root();
+    const XOwned<xcb_get_property_reply_t> announced(xcb_get_property_reply(
+        connection,
+        xcb_get_property(connection, 0, root, m_connection->atom("_NET_SUPPORTING_WM_CHECK"),
+                         XCB_ATOM_WINDOW, 0, 1),
+        nullptr));
+    if (!announced || xcb_get_property_value_length(announced.get()) == 0) {
+        return false;
+    }
+    const xcb_window_t window = xcb_generate_id(connection);
+    xcb_create_window(connection, XCB_COPY_FROM_PARENT, window, root, 0, 0, 10, 10, 0,
+                      XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
+    xcb_map_window(connection, window);
+    const auto isTakenUp = [&] {
+        const XOwned<xcb_query_tree_reply_t> tree(
+            xcb_query_tree_reply(connection, xcb_query_tree(connection, window), nullptr));
+        return tree && tree->parent != root;
+    };
+    const bool managed = eventually(isTakenUp, std::chrono::milliseconds(300));
+    xcb_destroy_window(connection, window);
+    m_connection->synchronise();
+    return managed;
 }
 
 } // namespace quillon::test

@@ -38,6 +38,8 @@ private:
     void startServer(const Options& options);
     void startCompositor();
     void startWindowManager();
+    /// Whether the window manager takes up a window that is mapped now.
+    bool managesNewWindow();
 
     TemporaryFolder m_home;
     std::string m_display;
