@@ -1,7 +1,6 @@
 #include "desktop/x11/SingleInstance.h"
 
 #include "desktop/x11/ServerGrab.h"
-#include "desktop/x11/XcbHandles.h"
 
 #include <array>
 #include <cstring>
@@ -13,18 +12,6 @@ namespace quillon::desktop {
 namespace {
 
 constexpr std::string_view activateMessage = "_QUILLON_MARK_ACTIVATE";
-
-xcb_intern_atom_cookie_t requestAtom(xcb_connection_t* connection, std::string_view name) {
-    constexpr std::uint8_t evenIfNew = 0;
-    return xcb_intern_atom(connection, evenIfNew, static_cast<std::uint16_t>(name.size()),
-                           name.data());
-}
-
-xcb_atom_t awaitAtom(xcb_connection_t* connection, xcb_intern_atom_cookie_t cookie) {
-    const XcbOwned<xcb_intern_atom_reply_t> reply(
-        xcb_intern_atom_reply(connection, cookie, nullptr));
-    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
-}
 
 /// Sends an event to the client that made a window.
 template <typename Event>
@@ -49,7 +36,7 @@ SingleInstance::SingleInstance(xcb_connection_t* connection, xcb_window_t root,
     , m_selectionName(std::move(selectionName)) {}
 
 SingleInstance::~SingleInstance() {
-    if (m_window != XCB_WINDOW_NONE) {
+    if (m_window != noWindow) {
         const auto cookie = xcb_destroy_window_checked(m_connection, m_window);
         xcb_discard_reply(m_connection, cookie.sequence);
         xcb_flush(m_connection);
@@ -57,12 +44,11 @@ SingleInstance::~SingleInstance() {
 }
 
 SingleInstance::Outcome SingleInstance::acquire() {
-    if (!internAtoms()) {
-        return Outcome::failed;
-    }
+    m_selection = atomNamed(m_connection, m_selectionName);
+    m_activate = atomNamed(m_connection, activateMessage);
     while (xcb_connection_has_error(m_connection) == 0) {
         const xcb_window_t owner = ownerAfterClaim();
-        if (owner == XCB_WINDOW_NONE) {
+        if (owner == noWindow) {
             break;
         }
         if (owner == m_window) {
@@ -76,25 +62,17 @@ SingleInstance::Outcome SingleInstance::acquire() {
     return Outcome::failed;
 }
 
-bool SingleInstance::internAtoms() {
-    const auto selection = requestAtom(m_connection, m_selectionName);
-    const auto message = requestAtom(m_connection, activateMessage);
-    m_selection = awaitAtom(m_connection, selection);
-    m_activate = awaitAtom(m_connection, message);
-    return m_selection != XCB_ATOM_NONE && m_activate != XCB_ATOM_NONE;
-}
-
 xcb_window_t SingleInstance::ownerAfterClaim() {
     const ServerGrab grab(m_connection);
     const XcbOwned<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(
         m_connection, xcb_get_selection_owner(m_connection, m_selection), nullptr));
     if (!reply) {
-        return XCB_WINDOW_NONE;
+        return noWindow;
     }
-    if (reply->owner != XCB_WINDOW_NONE) {
+    if (reply->owner != noWindow) {
         return reply->owner;
     }
-    if (m_window == XCB_WINDOW_NONE) {
+    if (m_window == noWindow) {
         m_window = xcb_generate_id(m_connection);
         const auto created = xcb_create_window_checked(
             m_connection, XCB_COPY_FROM_PARENT, m_window, m_root, -1, -1, 1, 1, 0,
@@ -104,7 +82,7 @@ xcb_window_t SingleInstance::ownerAfterClaim() {
     // With the server grabbed nobody can come first, so the current time is no risk.
     const auto claimed =
         xcb_set_selection_owner_checked(m_connection, m_window, m_selection, XCB_CURRENT_TIME);
-    return requestError(m_connection, claimed) ? xcb_window_t{XCB_WINDOW_NONE} : m_window;
+    return requestError(m_connection, claimed) ? noWindow : m_window;
 }
 
 bool SingleInstance::activate(xcb_window_t owner) {
@@ -113,11 +91,12 @@ bool SingleInstance::activate(xcb_window_t owner) {
     message.format = 32;
     message.window = owner;
     message.type = m_activate;
-    return !requestError(m_connection, sendEvent(m_connection, owner, message));
+    return !requestError(m_connection, sendEvent(m_connection, owner, message)) &&
+           xcb_connection_has_error(m_connection) == 0;
 }
 
 bool SingleInstance::handleEvent(const xcb_generic_event_t& event) {
-    if (m_window == XCB_WINDOW_NONE) {
+    if (m_window == noWindow) {
         return false;
     }
     switch (eventType(event)) {
@@ -153,7 +132,7 @@ void SingleInstance::refuse(const xcb_selection_request_event_t& request) {
     notify.requestor = request.requestor;
     notify.selection = request.selection;
     notify.target = request.target;
-    notify.property = XCB_ATOM_NONE;
+    notify.property = noAtom;
     const auto cookie = sendEvent(m_connection, request.requestor, notify);
     xcb_discard_reply(m_connection, cookie.sequence);
     xcb_flush(m_connection);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/x11/XcbHeaders.h"
+#include "desktop/x11/XcbHandles.h"
 
 #include <cstdint>
 #include <functional>
@@ -46,7 +46,6 @@ public:
     std::function<void()> onActivated;
 
 private:
-    bool internAtoms();
     /// Who owns the selection, after this took it if it was free; none when the claim failed.
     xcb_window_t ownerAfterClaim();
     /// False when the owner is no more.
@@ -57,9 +56,9 @@ private:
     xcb_connection_t* m_connection;
     xcb_window_t m_root;
     std::string m_selectionName;
-    xcb_atom_t m_selection = XCB_ATOM_NONE;
-    xcb_atom_t m_activate = XCB_ATOM_NONE;
-    xcb_window_t m_window = XCB_WINDOW_NONE;
+    xcb_atom_t m_selection = noAtom;
+    xcb_atom_t m_activate = noAtom;
+    xcb_window_t m_window = noWindow;
 };
 
 } // namespace quillon::desktop

@@ -2,7 +2,6 @@
 
 #include "desktop/x11/XcbHandles.h"
 
-#include <ranges>
 #include <utility>
 #include <vector>
 
@@ -132,7 +131,7 @@ void X11HotKeys::readKeyboard() {
 void X11HotKeys::regrab() {
     const auto lockStates = m_keyboard.modifiers.lockStates();
     std::vector<std::pair<HotKey*, KeyCombination>> moved;
-    for (HotKey& hotKey : m_hotKeys | std::views::values) {
+    for (auto& [ref, hotKey] : m_hotKeys) {
         const auto combination = combinationOf(hotKey);
         if (hotKey.grab && combination && hotKey.grab->covers(*combination, lockStates)) {
             continue;
@@ -164,7 +163,7 @@ std::optional<KeyCombination> X11HotKeys::combinationOf(const HotKey& hotKey) co
 }
 
 const X11HotKeys::HotKey* X11HotKeys::holderOf(KeyCombination combination) const {
-    for (const HotKey& hotKey : m_hotKeys | std::views::values) {
+    for (const auto& [ref, hotKey] : m_hotKeys) {
         if (hotKey.grab && hotKey.grab->combination() == combination) {
             return &hotKey;
         }
@@ -176,7 +175,8 @@ void X11HotKeys::dispatch(EventHotKeyID id) {
     const HotKeyPress press(id);
     // A handler may remove itself or another one, which then is not called any more.
     const auto handlers = m_handlers;
-    for (const auto& [ref, handler] : handlers | std::views::reverse) {
+    for (auto entry = handlers.rbegin(); entry != handlers.rend(); ++entry) {
+        const auto& [ref, handler] = *entry;
         if (handler.type == EventTypeSpec{kEventClassKeyboard, kEventHotKeyPressed} &&
             m_handlers.contains(ref) &&
             handler.function(&press, handler.userData) != eventNotHandledErr) {

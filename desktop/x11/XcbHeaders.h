@@ -1,5 +1,8 @@
 #pragma once
 
+// The protocol headers alone follow, which the compiler's warnings are not meant for.
+#pragma GCC system_header
+
 // The XKB protocol header names fields after a word that C++ keeps for itself.
 #define explicit explicitComponents
 #include <xcb/xkb.h>

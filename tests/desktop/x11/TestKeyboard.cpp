@@ -4,7 +4,7 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <ranges>
+#include <iterator>
 
 #include <xcb/xtest.h>
 
@@ -35,8 +35,8 @@ void TestKeyboard::strike(std::initializer_list<xcb_keycode_t> keyCodes) {
     for (const xcb_keycode_t keyCode : keyCodes) {
         press(keyCode);
     }
-    for (const xcb_keycode_t keyCode : std::views::reverse(keyCodes)) {
-        release(keyCode);
+    for (auto keyCode = std::rbegin(keyCodes); keyCode != std::rend(keyCodes); ++keyCode) {
+        release(*keyCode);
     }
 }
 
