@@ -18,8 +18,8 @@ namespace quillon::test {
 inline constexpr Rgb kBackground{40, 60, 90};
 inline constexpr Rgb kInk{255, 0, 0};
 
-/// A desktop with one window of another program over all of it, on which the real program is
-/// tried.
+/// A desktop with one window of another program below a strip for a tray, on which the real program
+/// is tried.
 class ProgramTest : public testing::Test {
 protected:
     ProgramTest() = default;
@@ -74,7 +74,7 @@ protected:
     VirtualDesktop desktop{{.width = 900, .height = 600}};
     InputDriver input{desktop.connection()};
     ScreenReader screen{desktop.connection()};
-    ProbeWindow below{desktop.display(), {0, 0, 900, 600}, kBackground};
+    ProbeWindow below{desktop.display(), {0, 40, 900, 560}, kBackground};
     std::unique_ptr<Program> program;
     /// The window under the pointer before the program started.
     xcb_window_t childBefore = [this] {

@@ -10,7 +10,7 @@ protected:
     void startTray() {
         const std::string settings = desktop.configFolder() + "/tray.conf";
         std::ofstream(settings) << "panel_items = S\npanel_size = 100% 30\n"
-                                   "panel_position = top center horizontal\nsystray_padding = 4\n"
+                                   "panel_position = top center horizontal\npanel_layer = top\n"
                                    "rounded = 0\nbackground_color = #202020 100\n"
                                    "panel_background_id = 1\n";
         desktop.start({"tint2", "-c", settings});
@@ -42,8 +42,7 @@ TEST_F(TrayItem, a_click_opens_the_menu_and_quit_ends_the_program) {
     const auto item = findItem();
     ASSERT_TRUE(item);
     input.click(*item);
-    // The menu has the keyboard while it is open.
-    ASSERT_TRUE(eventually([this] { return program->process().isRunning(); }));
+    ASSERT_TRUE(screen.waitForPixel({item->x + 60, 60}, [](Rgb seen) { return seen.red > 200; }));
     input.chord({"Control_L", "q"});
     EXPECT_EQ(program->process().waitForExit(), 0);
 }
