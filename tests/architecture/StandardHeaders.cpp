@@ -1,0 +1,16 @@
+#include "architecture/Architecture.h"
+
+namespace quillon::test {
+
+const std::set<std::string>& standardHeaders() {
+    static const std::set<std::string> headers = {
+        "algorithm",     "any",     "array",      "chrono",           "cmath",       "cstddef",
+        "cstdint",       "cstdlib", "functional", "initializer_list", "iostream",    "iterator",
+        "limits",        "map",     "memory",     "numbers",          "numeric",     "optional",
+        "random",        "span",    "string",     "string_view",      "type_traits", "typeindex",
+        "unordered_set", "utility", "variant",    "vector",
+    };
+    return headers;
+}
+
+} // namespace quillon::test
