@@ -1,5 +1,8 @@
 #include "desktop/storage/SettingsDatabase.h"
 
+#include <cstddef>
+#include <vector>
+
 namespace quillon::desktop {
 
 namespace {
@@ -7,8 +10,8 @@ namespace {
 // Another process may hold the file for the moment of a write.
 constexpr int kBusyTimeoutMilliseconds = 2000;
 
-constexpr const char* kSchema = R"(
-CREATE TABLE IF NOT EXISTS defaults (
+// The database keeps the text of its schema, and that text is compared with this one.
+constexpr const char* kSchema = R"(CREATE TABLE defaults (
     key     TEXT PRIMARY KEY NOT NULL,
     boolean INTEGER CHECK (boolean IN (0, 1)),
     number  REAL,
@@ -16,9 +19,10 @@ CREATE TABLE IF NOT EXISTS defaults (
     data    BLOB,
     CHECK ((boolean IS NOT NULL) + (number IS NOT NULL) + (string IS NOT NULL)
            + (data IS NOT NULL) = 1)
-) STRICT, WITHOUT ROWID;
-)";
+) STRICT, WITHOUT ROWID)";
 
+constexpr const char* kSelectSchema = "SELECT sql FROM sqlite_schema";
+constexpr const char* kCheck = "PRAGMA integrity_check";
 constexpr const char* kSelect = "SELECT key, boolean, number, string, data FROM defaults";
 constexpr const char* kUpsert =
     "INSERT OR REPLACE INTO defaults (key, boolean, number, string, data)"
@@ -38,19 +42,12 @@ SqliteStatement prepare(sqlite3* database, const char* sql) {
 
 SettingsDatabase::Problem problemOf(sqlite3* database) {
     switch (sqlite3_errcode(database)) {
-    case SQLITE_CANTOPEN:
-    case SQLITE_READONLY:
-    case SQLITE_PERM:
-    case SQLITE_AUTH:
-    case SQLITE_FULL:
-    case SQLITE_BUSY:
-    case SQLITE_LOCKED:
-    case SQLITE_IOERR:
-    case SQLITE_NOMEM:
-        return SettingsDatabase::Problem::unavailable;
-    default:
-        // Also a file of another schema: its statements do not prepare.
+    case SQLITE_NOTADB:
+    case SQLITE_CORRUPT:
+    case SQLITE_ERROR:
         return SettingsDatabase::Problem::damaged;
+    default:
+        return SettingsDatabase::Problem::unavailable;
     }
 }
 
@@ -58,6 +55,50 @@ std::string bytesAt(sqlite3_stmt* row, int column) {
     const auto* bytes = static_cast<const char*>(sqlite3_column_blob(row, column));
     const auto size = static_cast<std::size_t>(sqlite3_column_bytes(row, column));
     return bytes ? std::string(bytes, size) : std::string();
+}
+
+/// The first column of all rows of a query, or nothing when it fails.
+std::optional<std::vector<std::string>> textsOf(sqlite3* database, const char* sql) {
+    const SqliteStatement query = prepare(database, sql);
+    if (!query) {
+        return std::nullopt;
+    }
+    std::vector<std::string> texts;
+    int step = sqlite3_step(query.get());
+    for (; step == SQLITE_ROW; step = sqlite3_step(query.get())) {
+        texts.push_back(bytesAt(query.get(), 0));
+    }
+    return step == SQLITE_DONE ? std::optional(std::move(texts)) : std::nullopt;
+}
+
+/// Whether the log is taken over into the file, and goes, when the last connection closes.
+void setKeepsLogOnClose(sqlite3* database, bool keeps) {
+    sqlite3_db_config(database, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, keeps ? 1 : 0, nullptr);
+}
+
+/// Makes the table in an empty file. There is nothing in it to lose yet, so this does not wait for
+/// the disk.
+bool begin(sqlite3* database) {
+    return execute(database, "PRAGMA synchronous = OFF; PRAGMA journal_mode = WAL") &&
+           execute(database, kSchema);
+}
+
+/// What is wrong with the file, if anything; an empty one is begun.
+std::optional<SettingsDatabase::Problem> examine(sqlite3* database) {
+    const auto faults = textsOf(database, kCheck);
+    const auto schema = faults ? textsOf(database, kSelectSchema) : std::nullopt;
+    if (!schema) {
+        return problemOf(database);
+    }
+    const bool isEmpty = schema->empty();
+    if (*faults != std::vector<std::string>{"ok"} ||
+        (!isEmpty && *schema != std::vector<std::string>{kSchema})) {
+        return SettingsDatabase::Problem::damaged;
+    }
+    const bool isReady =
+        (!isEmpty || begin(database)) &&
+        execute(database, "PRAGMA journal_mode = WAL; PRAGMA synchronous = NORMAL");
+    return isReady ? std::nullopt : std::optional(problemOf(database));
 }
 
 std::optional<DefaultsValue> valueAt(sqlite3_stmt* row) {
@@ -105,24 +146,23 @@ std::variant<SettingsDatabase, SettingsDatabase::Problem>
 SettingsDatabase::open(const std::filesystem::path& file) {
     sqlite3* raw = nullptr;
     const int opened =
-        sqlite3_open_v2(file.c_str(), &raw,
-                        SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
+        sqlite3_open_v2(file.c_str(), &raw, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
     SqliteDatabase database(raw);
     if (opened != SQLITE_OK) {
         return Problem::unavailable;
     }
     sqlite3_busy_timeout(raw, kBusyTimeoutMilliseconds);
-    const bool isReady = execute(raw, "PRAGMA journal_mode = WAL; PRAGMA synchronous = NORMAL;") &&
-                         execute(raw, kSchema);
-    SqliteStatement upsert = isReady ? prepare(raw, kUpsert) : nullptr;
+    // The log of a file that turns out to be damaged is kept beside it.
+    setKeepsLogOnClose(raw, true);
+    if (const auto problem = examine(raw)) {
+        return *problem;
+    }
+    SqliteStatement upsert = prepare(raw, kUpsert);
     if (!upsert) {
         return problemOf(raw);
     }
-    SettingsDatabase settings(std::move(database), std::move(upsert));
-    if (!settings.readAll()) {
-        return problemOf(raw);
-    }
-    return settings;
+    setKeepsLogOnClose(raw, false);
+    return SettingsDatabase(std::move(database), std::move(upsert));
 }
 
 std::optional<DefaultsTable> SettingsDatabase::readAll() const {

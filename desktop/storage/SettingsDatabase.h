@@ -18,7 +18,8 @@ using DefaultsTable = std::map<std::string, DefaultsValue, std::less<>>;
 
 /// The file in which the defaults stand: one table with a column for each type, of which every row
 /// fills exactly one. It is written through a log, so that a change survives the end of the process
-/// at any moment, and two processes may hold it at once.
+/// at any moment, and two processes may hold it at once. Two may not open it at once: the caller
+/// keeps them apart.
 class SettingsDatabase {
 public:
     /// Why a database could not be opened.
@@ -29,12 +30,14 @@ public:
         unavailable,
     };
 
+    /// Opens a file that exists. An empty one is begun; any other is examined as a whole, which is
+    /// quick since it is small.
     static std::variant<SettingsDatabase, Problem> open(const std::filesystem::path& file);
 
     /// All rows, or nothing when they cannot be read.
     std::optional<DefaultsTable> readAll() const;
 
-    /// False when the value could not be written.
+    /// False when the value could not be written, as a number that is not one cannot.
     bool write(std::string_view key, const DefaultsValue& value) const;
 
 private:
