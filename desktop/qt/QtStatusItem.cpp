@@ -10,7 +10,7 @@ namespace quillon::desktop {
 QtStatusItem::QtStatusItem(StatusArea& area, Application& application)
     : m_area(area)
     , m_application(application)
-    , m_areaAppeared(area.appeared.sink([this] { show(); })) {}
+    , m_areaChanged(area.changed.sink([this] { show(); })) {}
 
 void QtStatusItem::setMenu(const Menu& menu) {
     m_menu = std::make_unique<QtMenu>(menu, m_application);

@@ -37,7 +37,7 @@ private:
     std::string m_action;
     std::unique_ptr<QtMenu> m_menu;
     std::unique_ptr<QSystemTrayIcon> m_trayIcon;
-    Cancellable m_areaAppeared;
+    Cancellable m_areaChanged;
 };
 
 } // namespace quillon::desktop
