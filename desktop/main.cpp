@@ -18,6 +18,7 @@
 #include <QApplication>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
@@ -45,6 +46,9 @@ void prepareToolkit() {
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    // Every change is saved when it is made, and whether the program starts again with the session
+    // is for the user's own autostart to say: there is nothing to tell a session manager.
+    QCoreApplication::setAttribute(Qt::AA_DisableSessionManager);
     QGuiApplication::setDesktopFileName("quillon-mark");
     QCoreApplication::setApplicationName("quillon-mark");
     QGuiApplication::setApplicationDisplayName("Quillon Mark");
@@ -96,7 +100,14 @@ int main(int argc, char** argv) {
         return EXIT_FAILURE;
     }
     prepareToolkit();
-    QApplication application(argc, argv);
+    // There is no command line: the toolkit sees the program's name and none of its own options,
+    // one of which would take the place of X11.
+    int nameAlone = std::min(argc, 1);
+    QApplication application(nameAlone, argv);
     const auto* x11 = application.nativeInterface<QNativeInterface::QX11Application>();
+    if (!x11) {
+        std::fprintf(stderr, "quillon-mark: the toolkit came up without X11\n");
+        return EXIT_FAILURE;
+    }
     return run(application, x11->connection());
 }
