@@ -60,7 +60,7 @@ std::optional<UUID> UUID::fromString(std::string_view text) {
             return std::nullopt;
         }
         auto& byte = bytes[nibble / 2];
-        byte = static_cast<std::uint8_t>((byte << 4) | *digit);
+        byte = static_cast<std::uint8_t>((unsigned{byte} << 4) | *digit);
         ++nibble;
     }
     return UUID(bytes);

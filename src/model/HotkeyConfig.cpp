@@ -42,8 +42,8 @@ const HotkeyMap& HotkeyConfig::defaults() {
             {HotkeyAction::toggleCursorHalo, 4}, {HotkeyAction::toggleSpotlight, 37},
             {HotkeyAction::toggleZoom, 7},       {HotkeyAction::clearAnnotations, 8},
         };
-        for (const auto& [action, keyCode] : keys) {
-            map[action] = {keyCode, kCommandShift, action};
+        for (const auto& [bound, key] : keys) {
+            map[bound] = {key, kCommandShift, bound};
         }
         return map;
     }();

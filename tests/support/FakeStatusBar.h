@@ -30,8 +30,8 @@ private:
         explicit Item(FakeStatusBar& bar)
             : m_bar(bar) {}
         StatusBarButton* button() override { return m_bar.hasButton ? this : nullptr; }
-        void setMenu(const Menu& menu) override { m_bar.menu = menu; }
-        void setImage(const Image& image) override { m_bar.image = image; }
+        void setMenu(const Menu& newMenu) override { m_bar.menu = newMenu; }
+        void setImage(const Image& newImage) override { m_bar.image = newImage; }
         void setAction(std::string selector) override { m_bar.action = std::move(selector); }
 
     private:
