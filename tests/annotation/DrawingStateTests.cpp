@@ -1,0 +1,141 @@
+#include "annotation/TestStrokes.h"
+
+#include <gtest/gtest.h>
+
+namespace quillon::test {
+namespace {
+
+/// A stroke with a place of its own, so that two of them can be told apart.
+DrawingStroke numbered(int number) {
+    return freehand({{static_cast<CGFloat>(number), 0}, {0, 1}});
+}
+
+TEST(DrawingState, starts_empty) {
+    DrawingState state;
+    EXPECT_TRUE(state.strokes->empty());
+    EXPECT_FALSE(state.currentStroke.get());
+    EXPECT_FALSE(state.canUndo());
+    EXPECT_FALSE(state.canRedo());
+}
+
+TEST(DrawingState, holds_the_last_50_snapshots_and_no_more) {
+    DrawingState state;
+    for (int number = 0; number < 51; ++number) {
+        state.addStroke(numbered(number));
+    }
+    EXPECT_EQ(state.undoStack->size(), 50U);
+    EXPECT_EQ(state.undoStack->front().size(), 1U);
+    for (int step = 0; step < 50; ++step) {
+        state.undo();
+    }
+    EXPECT_EQ(state.strokes->size(), 1U);
+    state.undo();
+    EXPECT_EQ(state.strokes->size(), 1U);
+    EXPECT_EQ(state.redoStack->size(), 50U);
+}
+
+TEST(DrawingState, adding_after_an_undo_empties_the_redo_stack) {
+    DrawingState state;
+    state.addStroke(numbered(1));
+    state.undo();
+    ASSERT_TRUE(state.canRedo());
+    state.addStroke(numbered(2));
+    EXPECT_FALSE(state.canRedo());
+}
+
+TEST(DrawingState, undo_and_redo_on_an_empty_history_change_nothing_and_are_not_heard) {
+    DrawingState state;
+    int heard = 0;
+    const auto subscription = state.objectWillChange.sink([&] { ++heard; });
+    state.undo();
+    state.redo();
+    EXPECT_EQ(heard, 0);
+    EXPECT_TRUE(state.strokes->empty());
+}
+
+TEST(DrawingState, undo_and_redo_restore_the_same_strokes) {
+    DrawingState state;
+    state.addStroke(numbered(1));
+    state.addStroke(numbered(2));
+    const auto before = idsOf(state.strokes);
+    state.undo();
+    EXPECT_EQ(idsOf(state.strokes), (std::vector<UUID>{before[0]}));
+    state.redo();
+    EXPECT_EQ(idsOf(state.strokes), before);
+}
+
+TEST(DrawingState, removing_an_unknown_stroke_costs_an_undo_step_and_the_redo_stack) {
+    DrawingState state;
+    state.addStroke(numbered(1));
+    state.addStroke(numbered(2));
+    state.undo();
+    const auto before = idsOf(state.strokes);
+    state.removeStroke(UUID::random());
+    EXPECT_EQ(idsOf(state.strokes), before);
+    EXPECT_EQ(state.undoStack->size(), 2U);
+    EXPECT_FALSE(state.canRedo());
+}
+
+TEST(DrawingState, removing_takes_every_stroke_of_that_id) {
+    DrawingState state;
+    const DrawingStroke twin = numbered(1);
+    state.addStroke(twin);
+    state.addStroke(numbered(2));
+    state.addStroke(twin);
+    state.removeStroke(twin.id());
+    EXPECT_EQ(state.strokes->size(), 1U);
+}
+
+TEST(DrawingState, clearing_an_empty_list_adds_an_undo_step_whose_snapshot_is_empty) {
+    DrawingState state;
+    state.clearAll();
+    ASSERT_EQ(state.undoStack->size(), 1U);
+    EXPECT_TRUE(state.undoStack->front().empty());
+}
+
+TEST(DrawingState, clearing_leaves_the_stroke_in_progress) {
+    DrawingState state;
+    state.addStroke(numbered(1));
+    state.currentStroke = numbered(2);
+    state.clearAll();
+    EXPECT_TRUE(state.strokes->empty());
+    EXPECT_TRUE(state.currentStroke.get());
+}
+
+TEST(DrawingState, undo_brings_back_what_the_eraser_took_and_redo_its_shortened_form) {
+    DrawingState state;
+    const DrawingStroke stroke = freehand({{0, 0}, {10, 0}, {20, 0}});
+    state.addStroke(stroke);
+    DrawingStroke shortened = stroke;
+    shortened.points.erase(shortened.points.begin());
+    state.strokes.modify([&](StrokeList& strokes) { strokes.replace(0, shortened); });
+    state.undo();
+    EXPECT_TRUE(state.strokes->empty());
+    state.redo();
+    EXPECT_EQ(state.strokes.get()[0], shortened);
+}
+
+TEST(DrawingState, cancelling_the_stroke_in_progress_leaves_both_stacks) {
+    DrawingState state;
+    state.addStroke(numbered(1));
+    state.addStroke(numbered(2));
+    state.undo();
+    state.currentStroke = numbered(3);
+    state.cancelCurrentStroke();
+    EXPECT_FALSE(state.currentStroke.get());
+    EXPECT_EQ(state.undoStack->size(), 1U);
+    EXPECT_EQ(state.redoStack->size(), 1U);
+}
+
+TEST(DrawingState, every_published_field_is_heard) {
+    DrawingState state;
+    int heard = 0;
+    const auto subscription = state.objectWillChange.sink([&] { ++heard; });
+    state.currentStroke = numbered(1);
+    EXPECT_EQ(heard, 1);
+    state.addStroke(numbered(1));
+    EXPECT_GE(heard, 4);
+}
+
+} // namespace
+} // namespace quillon::test
