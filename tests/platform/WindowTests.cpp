@@ -1,0 +1,75 @@
+#include "support/FakeHost.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace quillon::test {
+
+namespace {
+
+class WindowTest : public testing::Test {
+protected:
+    std::unique_ptr<Window> makeWindow() const {
+        return std::make_unique<Window>(CGRect{10, 20, 300, 200}, WindowStyleMask::borderless,
+                                        BackingStoreType::buffered, false);
+    }
+
+    FakeHost host;
+};
+
+using Calls = std::vector<std::string>;
+
+} // namespace
+
+TEST_F(WindowTest, the_application_knows_its_windows_in_order_of_their_making) {
+    const auto first = makeWindow();
+    auto second = makeWindow();
+    EXPECT_EQ(host.application.windows(), (std::vector{first.get(), second.get()}));
+    second.reset();
+    EXPECT_EQ(host.application.windows(), std::vector{first.get()});
+}
+
+TEST_F(WindowTest, what_was_set_can_be_read_back) {
+    const auto window = makeWindow();
+    window->setOpaque(false);
+    window->setBackgroundColor(Color::clear);
+    window->setLevel(NSFloatingWindowLevel);
+    window->setCollectionBehavior(NSWindowCollectionBehavior::canJoinAllSpaces);
+    window->setIgnoresMouseEvents(true);
+    window->setIdentifier("overlay");
+    EXPECT_FALSE(window->isOpaque());
+    EXPECT_EQ(window->backgroundColor(), Color::clear);
+    EXPECT_EQ(window->level(), 3);
+    EXPECT_EQ(window->collectionBehavior(), 1U);
+    EXPECT_TRUE(window->ignoresMouseEvents());
+    EXPECT_EQ(window->identifier(), "overlay");
+}
+
+TEST_F(WindowTest, a_borderless_window_does_not_take_the_keyboard_of_itself) {
+    EXPECT_FALSE(makeWindow()->canBecomeKeyWindow());
+}
+
+TEST_F(WindowTest, a_frame_is_kept_and_handed_on) {
+    const auto window = makeWindow();
+    window->setFrame({1, 2, 30, 40}, true);
+    EXPECT_EQ(window->frame(), (CGRect{1, 2, 30, 40}));
+    EXPECT_EQ(window->contentBounds(), (CGRect{0, 0, 30, 40}));
+    EXPECT_EQ(host.windows.calls, Calls{"frame"});
+}
+
+TEST_F(WindowTest, it_comes_on_screen_and_leaves_it) {
+    const auto window = makeWindow();
+    EXPECT_FALSE(window->isVisible());
+    window->orderFrontRegardless();
+    EXPECT_TRUE(window->isVisible());
+    window->orderOut();
+    EXPECT_FALSE(window->isVisible());
+    window->makeKeyAndOrderFront();
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(host.windows.calls, (Calls{"orderFront", "orderOut", "makeKeyAndOrderFront"}));
+}
+
+} // namespace quillon::test
