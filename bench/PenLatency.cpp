@@ -1,155 +1,95 @@
-// How long it takes from a motion of the pointer, with the button held, to the change of a pixel
-// on the root window, where a person would see it. The programs take turns in one run on one
-// desktop of their own; a Markdown table is printed.
+// How long a motion of the pen takes to the screen, for this program and others, side by side.
+//
+//     pen_latency [--rounds 5] [--strokes 5]
 
+#include "PenMeter.h"
+#include "Pens.h"
 #include "Statistics.h"
-#include "desktop/support/InputDriver.h"
-#include "desktop/support/Program.h"
+
+#include "desktop/support/ProbeWindow.h"
 #include "desktop/support/ScreenReader.h"
-#include "desktop/support/StoredSettings.h"
-#include "desktop/support/VirtualDesktop.h"
 
-#include <sys/stat.h>
+#include <sys/prctl.h>
 
-#include <chrono>
-#include <cstdio>
-#include <functional>
+#include <exception>
 #include <iostream>
-#include <map>
-#include <memory>
-#include <string>
-#include <vector>
+#include <stdexcept>
 
 using namespace quillon;
-using namespace quillon::test;
 using namespace quillon::bench;
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
+constexpr test::Rgb kPaper{240, 240, 235};
 
-constexpr int kRounds = 5;
-constexpr int kMotionsInStroke = 60;
-constexpr int kStrokesInRound = 4;
-/// The pointer moves so far that the place looked at lies outside of what was painted before.
-constexpr int kStep = 14;
-constexpr std::chrono::milliseconds kLongest{200};
-
-double millisecondsSince(Clock::time_point start) {
-    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
-}
-
-struct Stand {
-    VirtualDesktop& desktop;
-    InputDriver& input;
-    ScreenReader& screen;
-};
-
-/// Draws strokes from left to right and times each motion to the first sight of its ink. The ink is
-/// looked for a little behind the pointer, where every pen has drawn by then.
-std::vector<double> timeStrokes(Stand& stand, int firstRow, int strokes) {
-    std::vector<double> samples;
-    for (int row = firstRow; row < firstRow + strokes; ++row) {
-        const int y = 120 + row * 60;
-        Pixel place{100, y};
-        stand.input.moveTo(place);
-        stand.input.press();
-        for (int motion = 0; motion < kMotionsInStroke; ++motion) {
-            place = {place.x + kStep, y};
-            const Pixel seen{place.x - 4, y};
-            const Rgb before = stand.screen.pixel(seen);
-            const auto start = Clock::now();
-            stand.input.moveTo(place);
-            while (stand.screen.pixel(seen) == before && Clock::now() - start < kLongest) {
-            }
-            // The first motions of a stroke only begin it.
-            if (motion >= 3) {
-                samples.push_back(millisecondsSince(start));
-            }
-        }
-        stand.input.release();
+/// Waits until nothing but the paper stands on the screen, and has for a while: a compositor takes
+/// its time with a window that covers everything.
+void waitForPaper(test::VirtualDesktop& desktop) {
+    const test::ScreenReader screen(desktop.connection());
+    const test::Pixel middle{desktop.connection().screen().width_in_pixels / 2,
+                             desktop.connection().screen().height_in_pixels / 2};
+    const auto isBlank = [&] { return test::isNear(screen.pixel(middle), kPaper, 0); };
+    if (!test::eventually([&] { return test::stays(isBlank, std::chrono::milliseconds(400)); })) {
+        throw std::runtime_error("the screen does not come to rest");
     }
-    return samples;
 }
 
-struct Contestant {
-    std::string name;
-    /// Starts the program with its pen ready; the result ends it.
-    std::function<std::shared_ptr<void>(Stand&)> start;
-};
-
-bool exists(const std::string& file) {
-    struct stat status {};
-    return stat(file.c_str(), &status) == 0;
+/// A window of another program below the drawing, as wide as the screen.
+std::unique_ptr<test::ProbeWindow> layPaper(test::VirtualDesktop& desktop) {
+    const auto& screen = desktop.connection().screen();
+    const test::ProbeWindow::Geometry everywhere{0, 0, screen.width_in_pixels,
+                                                 screen.height_in_pixels};
+    return std::make_unique<test::ProbeWindow>(desktop.display(), everywhere, kPaper);
 }
 
-bool pointerMeetsWindow(Stand& stand) {
-    auto& connection = stand.desktop.connection();
-    const XOwned<xcb_query_pointer_reply_t> pointer(xcb_query_pointer_reply(
-        connection.get(), xcb_query_pointer(connection.get(), connection.root()), nullptr));
-    return pointer && pointer->child != XCB_NONE;
+/// Each round starts every program once, so that what befalls the machine befalls them all.
+std::vector<PenResult> measure(const std::vector<PenProgram>& programs, int rounds, int strokes) {
+    std::vector<PenResult> results(programs.size());
+    for (int round = 0; round < rounds; ++round) {
+        for (std::size_t index = 0; index < programs.size(); ++index) {
+            test::VirtualDesktop desktop;
+            const auto paper = layPaper(desktop);
+            std::cerr << "round " << round + 1 << ": " << programs[index].name << std::endl;
+            const auto pen = programs[index].start(desktop);
+            waitForPaper(desktop);
+            PenMeter meter(desktop);
+            meter.measurePage(*pen, 1);
+            const PenResult result = meter.measurePage(*pen, strokes);
+            results[index].latency.add(result.latency);
+            results[index].missed += result.missed;
+        }
+    }
+    return results;
 }
 
-std::shared_ptr<void> startOther(Stand& stand, const std::vector<std::string>& command) {
-    auto process = std::make_shared<ChildProcess>(command, stand.desktop.environment());
-    eventually([&] { return pointerMeetsWindow(stand); });
-    return process;
-}
-
-std::shared_ptr<void> startProgram(Stand& stand) {
-    withStoredSettings(stand.desktop.configFolder(), [](AppSettings& settings) {
-        settings.isAnnotationEnabled = true;
-        settings.selectedColor = Color(1, 0, 0);
-        settings.lineWidth = 8.0;
-    });
-    auto program = std::make_shared<Program>(stand.desktop);
-    eventually([&] { return pointerMeetsWindow(stand); });
-    return program;
+void print(const std::vector<PenProgram>& programs, const std::vector<PenResult>& results) {
+    const double floorMiddle = results.front().latency.percentile(50);
+    const double floorWorst = results.front().latency.percentile(99);
+    std::cout << head(
+        {"motion → pixel", "motions", "missed", "p50 ms", "p99 ms", "p50 ÷ bare", "p99 ÷ bare"});
+    for (std::size_t index = 0; index < programs.size(); ++index) {
+        const PenResult& result = results[index];
+        const double middle = result.latency.percentile(50);
+        const double worst = result.latency.percentile(99);
+        std::cout << row({programs[index].name, std::to_string(result.latency.count()),
+                          std::to_string(result.missed), fixed(middle, 2), fixed(worst, 2),
+                          fixed(middle / floorMiddle, 2), fixed(worst / floorWorst, 2)});
+    }
 }
 
 } // namespace
 
-int main(int argc, char** argv) {
-    const bool isWide = argc > 1 && std::string(argv[1]) == "--4k";
-    VirtualDesktop desktop(isWide ? VirtualDesktop::Options{.width = 3840, .height = 2160}
-                                  : VirtualDesktop::Options{});
-    InputDriver input(desktop.connection());
-    ScreenReader screen(desktop.connection());
-    Stand stand{desktop, input, screen};
-
-    std::vector<Contestant> contestants{
-        {"bare xcb", [](Stand& s) { return startOther(s, {BARE_PEN_PATH}); }},
-        {"quillon-mark", startProgram},
-    };
-    if (exists("/usr/bin/gromit-mpx")) {
-        contestants.push_back({"gromit-mpx", [](Stand& s) {
-                                   return startOther(s, {"gromit-mpx", "-a"});
-                               }});
-    } else {
-        std::cerr << "gromit-mpx is not installed and is left out\n";
+int main(int count, char** arguments) {
+    try {
+        const std::vector<std::string> options(arguments + 1, arguments + count);
+        // Pauses of microseconds are kept as such.
+        prctl(PR_SET_TIMERSLACK, 1);
+        const auto programs = penPrograms();
+        print(programs,
+              measure(programs, option(options, "--rounds", 5), option(options, "--strokes", 5)));
+        return 0;
+    } catch (const std::exception& error) {
+        std::cerr << "pen_latency: " << error.what() << '\n';
+        return 1;
     }
-
-    std::map<std::string, std::vector<double>> samples;
-    for (int round = 0; round < kRounds; ++round) {
-        for (const auto& contestant : contestants) {
-            const auto running = contestant.start(stand);
-            timeStrokes(stand, 0, 1);
-            const auto times = timeStrokes(stand, 1, kStrokesInRound);
-            auto& all = samples[contestant.name];
-            all.insert(all.end(), times.begin(), times.end());
-        }
-    }
-
-    const auto& floor = samples["bare xcb"];
-    std::printf("| program | motions | p50 ms | p99 ms | p50 / bare | p99 / bare |\n");
-    std::printf("|---|---|---|---|---|---|\n");
-    for (const auto& contestant : contestants) {
-        const auto& times = samples[contestant.name];
-        const double middle = percentile(times, 0.5);
-        const double slow = percentile(times, 0.99);
-        std::printf("| %s | %zu | %.3f | %.3f | %.2f | %.2f |\n", contestant.name.c_str(),
-                    times.size(), middle, slow, middle / percentile(floor, 0.5),
-                    slow / percentile(floor, 0.99));
-    }
-    return 0;
 }

@@ -1,17 +1,34 @@
 #pragma once
 
-#include <algorithm>
-#include <cstddef>
+#include <string>
 #include <vector>
 
 namespace quillon::bench {
 
-/// The value below which the given part of the samples lies, `part` from 0 to 1. The samples must
-/// not be empty.
-inline double percentile(std::vector<double> samples, double part) {
-    std::ranges::sort(samples);
-    const auto last = static_cast<double>(samples.size() - 1);
-    return samples[static_cast<std::size_t>(part * last + 0.5)];
-}
+/// What was measured, in any unit.
+class Samples {
+public:
+    void add(double value);
+    void add(const Samples& others);
+
+    std::size_t count() const { return m_values.size(); }
+    /// The smallest value that `percent` of all values do not exceed (nearest rank); nought when
+    /// there are none.
+    double percentile(double percent) const;
+
+private:
+    std::vector<double> m_values;
+};
+
+/// A number with so many digits after the point.
+std::string fixed(double value, int digits);
+
+/// A Markdown table row: "| a | b |".
+std::string row(const std::vector<std::string>& cells);
+/// A Markdown table head with its rule; every column but the first stands to the right.
+std::string head(const std::vector<std::string>& cells);
+
+/// The whole number after `name` on a command line such as `--rounds 5`; throws when it is none.
+int option(const std::vector<std::string>& arguments, const std::string& name, int otherwise);
 
 } // namespace quillon::bench

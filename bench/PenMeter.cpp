@@ -1,0 +1,106 @@
+#include "PenMeter.h"
+
+#include <cmath>
+#include <stdexcept>
+#include <thread>
+
+namespace quillon::bench {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using test::Pixel;
+
+constexpr int kMotionsOfAStroke = 80;
+constexpr int kStep = 16;
+constexpr int kMargin = 120;
+constexpr int kLineHeight = 150;
+constexpr int kWaveHeight = 40;
+constexpr double kWaveLength = 300;
+/// Half the side of the square that is looked at; its nearest ink lies further away.
+constexpr int kReach = 4;
+
+constexpr std::chrono::milliseconds kPatience{500};
+constexpr std::chrono::microseconds kPauseBetweenLooks{50};
+/// The pace of a mouse that reports 125 times a second.
+constexpr std::chrono::milliseconds kRest{8};
+
+Pixel placeOn(int baseline, int motion) {
+    const int x = kMargin + motion * kStep;
+    const double wave = kWaveHeight * std::sin(x * 2 * 3.14159265358979 / kWaveLength);
+    return {x, baseline + static_cast<int>(std::lround(wave))};
+}
+
+} // namespace
+
+PenMeter::PenMeter(test::VirtualDesktop& desktop)
+    : m_connection(desktop.connection())
+    , m_input(desktop.connection()) {}
+
+PenResult PenMeter::measurePage(Pen& pen, int strokes) {
+    PenResult result;
+    const Pixel witness = placeOn(kMargin, kMotionsOfAStroke / 2);
+    const Pixels blank = pixelsAround(witness);
+    for (int stroke = 0; stroke < strokes; ++stroke) {
+        measureStroke(kMargin + stroke * kLineHeight, result);
+    }
+    if (pixelsAround(witness) == blank) {
+        throw std::runtime_error("the strokes left no ink");
+    }
+    pen.clear();
+    if (!test::eventually([&] { return pixelsAround(witness) == blank; })) {
+        throw std::runtime_error("the screen was not cleared");
+    }
+    return result;
+}
+
+void PenMeter::measureStroke(int baseline, PenResult& result) {
+    m_input.moveTo(placeOn(baseline, 0));
+    m_input.press();
+    std::this_thread::sleep_for(kRest);
+    for (int motion = 1; motion <= kMotionsOfAStroke; ++motion) {
+        if (const auto time = timeMotion(placeOn(baseline, motion))) {
+            result.latency.add(time->count());
+        } else {
+            ++result.missed;
+        }
+        std::this_thread::sleep_for(kRest);
+    }
+    m_input.release();
+    std::this_thread::sleep_for(kRest);
+}
+
+std::optional<std::chrono::duration<double, std::milli>> PenMeter::timeMotion(Pixel place) {
+    const Pixels before = pixelsAround(place);
+    const auto start = Clock::now();
+    m_input.moveTo(place);
+    while (pixelsAround(place) == before) {
+        if (Clock::now() - start > kPatience) {
+            return std::nullopt;
+        }
+        std::this_thread::sleep_for(kPauseBetweenLooks);
+    }
+    return Clock::now() - start;
+}
+
+PenMeter::Pixels PenMeter::pixelsAround(Pixel place) const {
+    constexpr std::uint16_t side = 2 * kReach + 1;
+    const auto cookie =
+        xcb_get_image(m_connection.get(), XCB_IMAGE_FORMAT_Z_PIXMAP, m_connection.root(),
+                      static_cast<std::int16_t>(place.x - kReach),
+                      static_cast<std::int16_t>(place.y - kReach), side, side, ~0U);
+    const test::XOwned<xcb_get_image_reply_t> image(
+        xcb_get_image_reply(m_connection.get(), cookie, nullptr));
+    if (!image) {
+        throw std::runtime_error("the screen cannot be read");
+    }
+    const std::uint8_t* const data = xcb_get_image_data(image.get());
+    Pixels pixels(data, data + xcb_get_image_data_length(image.get()));
+    // The fourth byte of a pixel is nobody's, and changes when nothing is seen to.
+    for (std::size_t unused = 3; unused < pixels.size(); unused += 4) {
+        pixels[unused] = 0;
+    }
+    return pixels;
+}
+
+} // namespace quillon::bench

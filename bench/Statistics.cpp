@@ -1,0 +1,62 @@
+#include "Statistics.h"
+
+#include <algorithm>
+#include <cmath>
+#include <iomanip>
+#include <sstream>
+#include <stdexcept>
+
+namespace quillon::bench {
+
+void Samples::add(double value) {
+    m_values.push_back(value);
+}
+
+void Samples::add(const Samples& others) {
+    m_values.insert(m_values.end(), others.m_values.begin(), others.m_values.end());
+}
+
+double Samples::percentile(double percent) const {
+    if (m_values.empty()) {
+        return 0;
+    }
+    auto values = m_values;
+    const auto rank = std::ceil(percent / 100 * static_cast<double>(values.size()));
+    const auto index = static_cast<std::size_t>(std::max(rank, 1.0)) - 1;
+    const auto nth = values.begin() + static_cast<std::ptrdiff_t>(index);
+    std::nth_element(values.begin(), nth, values.end());
+    return *nth;
+}
+
+std::string fixed(double value, int digits) {
+    std::ostringstream text;
+    text << std::fixed << std::setprecision(digits) << value;
+    return text.str();
+}
+
+std::string row(const std::vector<std::string>& cells) {
+    std::string text = "|";
+    for (const std::string& cell : cells) {
+        text += " " + cell + " |";
+    }
+    return text + "\n";
+}
+
+std::string head(const std::vector<std::string>& cells) {
+    std::vector<std::string> rule(cells.size(), "---:");
+    rule.front() = "---";
+    return row(cells) + row(rule);
+}
+
+int option(const std::vector<std::string>& arguments, const std::string& name, int otherwise) {
+    const auto found = std::ranges::find(arguments, name);
+    if (found == arguments.end()) {
+        return otherwise;
+    }
+    if (found + 1 == arguments.end()) {
+        throw std::runtime_error(name + " wants a number");
+    }
+    return std::stoi(*(found + 1));
+}
+
+} // namespace quillon::bench
