@@ -85,7 +85,7 @@ int main() {
         run(XConnection(""));
         return 0;
     } catch (const std::exception& error) {
-        std::cerr << "bare_pen: " << error.what() << '\n';
+        std::cerr << "bare-pen: " << error.what() << '\n';
         return 1;
     }
 }

@@ -1,10 +1,10 @@
 // How long a motion of the pen takes to the screen, for this program and others, side by side.
 //
-//     pen_latency [--rounds 5] [--strokes 5]
+//     pen-latency [--rounds 5] [--strokes 5] [--width 1920] [--height 1080]
 
-#include "PenMeter.h"
-#include "Pens.h"
-#include "Statistics.h"
+#include "bench/PenMeter.h"
+#include "bench/Pens.h"
+#include "bench/Statistics.h"
 
 #include "desktop/support/ProbeWindow.h"
 #include "desktop/support/ScreenReader.h"
@@ -43,14 +43,16 @@ std::unique_ptr<test::ProbeWindow> layPaper(test::VirtualDesktop& desktop) {
 }
 
 /// Each round starts every program once, so that what befalls the machine befalls them all.
-std::vector<PenResult> measure(const std::vector<PenProgram>& programs, int rounds, int strokes) {
+std::vector<PenResult> measure(const std::vector<PenProgram>& programs, int rounds, int strokes,
+                               const test::VirtualDesktop::Options& screen) {
     std::vector<PenResult> results(programs.size());
     for (int round = 0; round < rounds; ++round) {
         for (std::size_t index = 0; index < programs.size(); ++index) {
-            test::VirtualDesktop desktop;
+            test::VirtualDesktop desktop(screen);
             const auto paper = layPaper(desktop);
             std::cerr << "round " << round + 1 << ": " << programs[index].name << std::endl;
             const auto pen = programs[index].start(desktop);
+            pen->switchOn();
             waitForPaper(desktop);
             PenMeter meter(desktop);
             meter.measurePage(*pen, 1);
@@ -85,11 +87,14 @@ int main(int count, char** arguments) {
         // Pauses of microseconds are kept as such.
         prctl(PR_SET_TIMERSLACK, 1);
         const auto programs = penPrograms();
-        print(programs,
-              measure(programs, option(options, "--rounds", 5), option(options, "--strokes", 5)));
+        test::VirtualDesktop::Options screen;
+        screen.width = option(options, "--width", screen.width);
+        screen.height = option(options, "--height", screen.height);
+        print(programs, measure(programs, option(options, "--rounds", 5),
+                                option(options, "--strokes", 5), screen));
         return 0;
     } catch (const std::exception& error) {
-        std::cerr << "pen_latency: " << error.what() << '\n';
+        std::cerr << "pen-latency: " << error.what() << '\n';
         return 1;
     }
 }

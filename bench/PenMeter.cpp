@@ -1,4 +1,4 @@
-#include "PenMeter.h"
+#include "bench/PenMeter.h"
 
 #include <cmath>
 #include <stdexcept>

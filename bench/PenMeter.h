@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Pens.h"
-#include "Statistics.h"
+#include "bench/Pens.h"
+#include "bench/Statistics.h"
 
 #include "desktop/support/InputDriver.h"
 #include "desktop/support/VirtualDesktop.h"

@@ -1,5 +1,6 @@
-#include "Pens.h"
+#include "bench/Pens.h"
 
+#include "desktop/support/InputDriver.h"
 #include "desktop/support/Program.h"
 #include "desktop/support/StoredSettings.h"
 
@@ -42,80 +43,109 @@ bool isPointerGrabbed(VirtualDesktop& desktop) {
     return answer && answer->status == XCB_GRAB_STATUS_ALREADY_GRABBED;
 }
 
-/// Runs `begin`, and waits until the pointer is another window's than before, or grabbed.
-void takePointer(VirtualDesktop& desktop, const std::string& name,
-                 const std::function<void()>& begin) {
-    const xcb_window_t before = windowUnderPointer(desktop);
-    begin();
-    const auto hasTaken = [&] {
-        const xcb_window_t now = windowUnderPointer(desktop);
-        return (now != XCB_NONE && now != before) || isPointerGrabbed(desktop);
-    };
-    if (!test::eventually(hasTaken)) {
-        throw std::runtime_error(name + " does not take the pointer");
-    }
-}
+/// Who has the pointer, as seen from outside.
+struct PointerHolder {
+    xcb_window_t window = XCB_NONE;
+    bool isGrabbed = false;
 
-class BarePen : public Pen {
+    static PointerHolder of(VirtualDesktop& desktop) {
+        return {windowUnderPointer(desktop), isPointerGrabbed(desktop)};
+    }
+    friend bool operator==(const PointerHolder&, const PointerHolder&) = default;
+};
+
+/// What all pens have in common: another than before has the pointer once they have taken it.
+class PointerTaker : public Pen {
+protected:
+    explicit PointerTaker(VirtualDesktop& desktop)
+        : m_desktop(desktop)
+        , m_before(PointerHolder::of(desktop)) {}
+
+    VirtualDesktop& desktop() const { return m_desktop; }
+    void waitUntilTaken() {
+        if (!test::eventually([this] { return PointerHolder::of(m_desktop) != m_before; })) {
+            throw std::runtime_error("the pen does not take the pointer");
+        }
+    }
+
+private:
+    VirtualDesktop& m_desktop;
+    PointerHolder m_before;
+};
+
+class BarePen : public PointerTaker {
 public:
     explicit BarePen(VirtualDesktop& desktop)
-        : m_input(desktop.connection()) {
-        takePointer(desktop, "bare_pen", [&] {
-            m_process = std::make_unique<test::ChildProcess>(
-                std::vector<std::string>{QUILLON_BARE_PEN_PATH}, desktop.environment());
-        });
-    }
+        : PointerTaker(desktop)
+        , m_input(desktop.connection())
+        , m_process({QUILLON_BARE_PEN_PATH}, desktop.environment()) {}
 
+    pid_t process() const override { return m_process.pid(); }
     void clear() override {
         m_input.press(3);
         m_input.release(3);
     }
+    void switchOn() override { waitUntilTaken(); }
 
 private:
     InputDriver m_input;
-    std::unique_ptr<test::ChildProcess> m_process;
+    test::ChildProcess m_process;
 };
 
-class QuillonMark : public Pen {
+class QuillonMark : public PointerTaker {
 public:
     explicit QuillonMark(VirtualDesktop& desktop)
-        : m_input(desktop.connection()) {
+        : PointerTaker(desktop)
+        , m_input(desktop.connection()) {
         test::withStoredSettings(desktop.configFolder(), [](AppSettings& settings) {
             settings.selectedTool = DrawingTool::pen;
             settings.selectedColor = Color(1, 0, 0);
             settings.lineWidth = 5;
         });
         m_program = std::make_unique<test::Program>(desktop);
-        takePointer(desktop, "quillon-mark", [this] {
-            m_input.chord({"Super_L", "Shift_L", "s"});
-        });
     }
 
+    pid_t process() const override { return m_program->process().pid(); }
     void clear() override { m_input.chord({"Super_L", "Shift_L", "c"}); }
+    void switchOn() override {
+        m_input.chord({"Super_L", "Shift_L", "s"});
+        waitUntilTaken();
+    }
 
 private:
     InputDriver m_input;
     std::unique_ptr<test::Program> m_program;
 };
 
-class Gromit : public Pen {
+class Gromit : public PointerTaker {
 public:
     explicit Gromit(VirtualDesktop& desktop)
-        : m_desktop(desktop) {
+        : PointerTaker(desktop) {
         std::ofstream(desktop.configFolder() + "/gromit-mpx.ini")
             << "[General]\nShowIntroOnStartup=false\n";
-        takePointer(desktop, "gromit-mpx", [&] {
-            m_process = std::make_unique<test::ChildProcess>(
-                std::vector<std::string>{"gromit-mpx", "-a"}, desktop.environment());
-        });
+        m_process = std::make_unique<test::ChildProcess>(std::vector<std::string>{"gromit-mpx"},
+                                                         desktop.environment());
+        const auto listens = [&] {
+            return desktop.connection().selectionOwner("Gromit/control") != XCB_NONE;
+        };
+        if (!test::eventually(listens)) {
+            throw std::runtime_error("gromit-mpx does not start");
+        }
     }
 
-    void clear() override {
-        test::ChildProcess({"gromit-mpx", "-c"}, m_desktop.environment()).waitForExit();
+    pid_t process() const override { return m_process->pid(); }
+    void clear() override { tell("-c"); }
+    void switchOn() override {
+        tell("-t");
+        waitUntilTaken();
     }
 
 private:
-    VirtualDesktop& m_desktop;
+    /// A second start hands its option to the running program.
+    void tell(const std::string& option) {
+        test::ChildProcess({"gromit-mpx", option}, desktop().environment()).waitForExit();
+    }
+
     std::unique_ptr<test::ChildProcess> m_process;
 };
 
@@ -138,12 +168,25 @@ bool isInstalled(const std::string& name) {
 } // namespace
 
 std::vector<PenProgram> penPrograms() {
-    std::vector<PenProgram> programs = {program<BarePen>("bare_pen"),
+    std::vector<PenProgram> programs = {program<BarePen>("bare-pen"),
                                         program<QuillonMark>("quillon-mark")};
     if (isInstalled("gromit-mpx")) {
         programs.push_back(program<Gromit>("gromit-mpx"));
     }
     return programs;
+}
+
+void startTray(VirtualDesktop& desktop) {
+    const std::string settings = desktop.configFolder() + "/tray.conf";
+    std::ofstream(settings) << "panel_items = S\npanel_size = 100% 30\n"
+                               "panel_position = top center horizontal\n";
+    desktop.start({"tint2", "-c", settings});
+    const auto isThere = [&] {
+        return desktop.connection().selectionOwner("_NET_SYSTEM_TRAY_S0") != XCB_NONE;
+    };
+    if (!test::eventually(isThere)) {
+        throw std::runtime_error("no tray comes up");
+    }
 }
 
 } // namespace quillon::bench

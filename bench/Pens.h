@@ -1,7 +1,8 @@
 #pragma once
 
-#include "desktop/support/InputDriver.h"
 #include "desktop/support/VirtualDesktop.h"
+
+#include <sys/types.h>
 
 #include <functional>
 #include <memory>
@@ -10,23 +11,28 @@
 
 namespace quillon::bench {
 
-/// A program that draws where the pointer moves, running on a desktop.
-///
-/// It is made ready to draw by its constructor, and ends with its holder.
+/// A program that can draw where the pointer moves, running on a desktop. It ends with its holder.
 class Pen {
 public:
     virtual ~Pen() = default;
+    virtual pid_t process() const = 0;
+    /// Takes the pointer to draw with; done when the call returns. Called once.
+    virtual void switchOn() = 0;
     /// Takes away all that was drawn.
     virtual void clear() = 0;
 };
 
 struct PenProgram {
     std::string name;
+    /// Done when the program can be switched on.
     std::function<std::unique_ptr<Pen>(test::VirtualDesktop&)> start;
 };
 
-/// The programs that can be measured here, the bare pen first. A program of others is among them
-/// only when it is installed.
+/// The programs that can be measured here: the bare pen first, the one of this project, and of
+/// others those that are installed.
 std::vector<PenProgram> penPrograms();
+
+/// Puts a panel with a tray and nothing else on the desktop.
+void startTray(test::VirtualDesktop& desktop);
 
 } // namespace quillon::bench

@@ -1,4 +1,4 @@
-#include "Statistics.h"
+#include "bench/Statistics.h"
 
 #include <algorithm>
 #include <cmath>

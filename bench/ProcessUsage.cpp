@@ -1,0 +1,74 @@
+#include "bench/ProcessUsage.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+
+namespace quillon::bench {
+
+namespace {
+
+std::string folderOf(pid_t process) {
+    return "/proc/" + std::to_string(process);
+}
+
+std::string contentsOf(const std::string& file) {
+    std::ifstream stream(file);
+    if (!stream) {
+        throw std::runtime_error("cannot read " + file);
+    }
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+/// The sum of the numbers after `name` on all lines that begin with it: "Name:  12 kB".
+long sumOf(const std::string& name, const std::string& text) {
+    long sum = 0;
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);) {
+        if (line.starts_with(name + ":")) {
+            sum += std::stol(line.substr(name.size() + 1));
+        }
+    }
+    return sum;
+}
+
+/// User and system time are the 14th and 15th field; the second is in parentheses and may hold
+/// anything.
+long ticksOf(const std::string& statistics) {
+    std::istringstream fields(statistics.substr(statistics.rfind(')') + 1));
+    std::string skipped;
+    for (int field = 3; field < 14; ++field) {
+        fields >> skipped;
+    }
+    long user = 0;
+    long system = 0;
+    fields >> user >> system;
+    return user + system;
+}
+
+} // namespace
+
+ProcessUsage ProcessUsage::of(pid_t process) {
+    ProcessUsage usage;
+    for (const auto& thread : std::filesystem::directory_iterator(folderOf(process) + "/task")) {
+        const std::string status = contentsOf(thread.path() / "status");
+        usage.contextSwitches += sumOf("voluntary_ctxt_switches", status);
+        usage.contextSwitches += sumOf("nonvoluntary_ctxt_switches", status);
+    }
+    usage.processorTicks = ticksOf(contentsOf(folderOf(process) + "/stat"));
+    return usage;
+}
+
+ProcessUsage ProcessUsage::since(const ProcessUsage& earlier) const {
+    return {contextSwitches - earlier.contextSwitches, processorTicks - earlier.processorTicks};
+}
+
+ProcessMemory ProcessMemory::of(pid_t process) {
+    const std::string pages = contentsOf(folderOf(process) + "/smaps_rollup");
+    return {sumOf("Rss", pages), sumOf("Private_Clean", pages) + sumOf("Private_Dirty", pages)};
+}
+
+} // namespace quillon::bench

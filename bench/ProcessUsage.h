@@ -1,0 +1,30 @@
+#pragma once
+
+#include <sys/types.h>
+
+namespace quillon::bench {
+
+/// What a process has used since it began, all its threads together.
+struct ProcessUsage {
+    /// Voluntary and involuntary context switches: how often one of its threads was put to sleep
+    /// or aside, and so how often one woke up.
+    long contextSwitches = 0;
+    /// Clock ticks on a processor, in its own code and in the kernel's for it.
+    long processorTicks = 0;
+
+    /// Reads /proc; throws when there is no such process.
+    static ProcessUsage of(pid_t process);
+    ProcessUsage since(const ProcessUsage& earlier) const;
+};
+
+/// What a process holds in memory, in kilobytes.
+struct ProcessMemory {
+    /// All resident pages.
+    long resident = 0;
+    /// Those of them that nobody shares.
+    long unique = 0;
+
+    static ProcessMemory of(pid_t process);
+};
+
+} // namespace quillon::bench
