@@ -41,8 +41,6 @@ void prepareToolkit() {
     // Small parts of a picture are on the screen sooner when they travel with their request: with
     // shared memory every paint would first wait for the server to have read the one before.
     qputenv("QT_XCB_NO_MITSHM", "1");
-    // Every place that the pointer passed becomes a point of the stroke.
-    QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QGuiApplication::setQuitOnLastWindowClosed(false);
@@ -104,6 +102,9 @@ int main(int argc, char** argv) {
     // one of which would take the place of X11.
     int nameAlone = std::min(argc, 1);
     QApplication application(nameAlone, argv);
+    // Every place that the pointer passed becomes a point of the stroke. The platform switches this
+    // on when it comes up, so it is switched off here.
+    QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     const auto* x11 = application.nativeInterface<QNativeInterface::QX11Application>();
     if (!x11) {
         std::fprintf(stderr, "quillon-mark: the toolkit came up without X11\n");

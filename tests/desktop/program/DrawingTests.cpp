@@ -1,5 +1,7 @@
 #include "desktop/program/ProgramTest.h"
 
+#include <vector>
+
 namespace quillon::test {
 namespace {
 
@@ -24,6 +26,26 @@ TEST_F(Drawing, the_line_is_seen_while_the_button_is_still_down) {
     EXPECT_TRUE(showsInk({150, 100}));
     EXPECT_TRUE(showsInk({195, 100}));
     input.release();
+}
+
+TEST_F(Drawing, every_place_that_the_pointer_passed_becomes_a_point) {
+    prepareTool(DrawingTool::pen, 6);
+    startAnnotating();
+    // Faster than it can be painted: a lost motion would cut the tip of a tooth.
+    std::vector<Pixel> tips;
+    for (int tooth = 0; tooth < 60; ++tooth) {
+        tips.push_back({100 + tooth * 12, tooth % 2 == 0 ? 150 : 350});
+    }
+    input.moveTo(tips.front());
+    input.press();
+    for (const Pixel tip : tips) {
+        input.moveTo(tip);
+    }
+    input.release();
+    // The curve passes near its second point and through all later ones.
+    for (std::size_t tip = 2; tip < tips.size(); ++tip) {
+        EXPECT_TRUE(showsInk(tips[tip])) << "tooth " << tip;
+    }
 }
 
 TEST_F(Drawing, the_highlighter_leaves_its_line_over_a_later_pen_stroke) {
