@@ -188,6 +188,7 @@ private:
     }
 
     void picture(const std::string& name) {
+        m_backdrop.paint();
         settle(120);
         const std::string number = std::to_string(++m_number);
         const std::string file =
