@@ -64,15 +64,63 @@ bool ContentWidget::event(QEvent* event) {
     return QWidget::event(event);
 }
 
+void ContentWidget::setComposited(bool composited) {
+    if (composited == isComposited()) {
+        return;
+    }
+    if (composited) {
+        m_inkMask.reset();
+    } else {
+        m_inkMask.emplace();
+    }
+    if (isVisible()) {
+        repaint();
+    }
+    tellOutline();
+}
+
 void ContentWidget::paintEvent(QPaintEvent* event) {
     if (!m_content) {
         return;
     }
     QPainter painter(this);
     for (const QRect& rect : event->region()) {
-        painter.setClipRect(rect);
-        QtGraphicsContext context(painter, fromQRectF(rect), devicePixelRatio());
-        m_content->rootView->paint(context, fromQRectF(rect));
+        if (isComposited()) {
+            painter.setClipRect(rect);
+            paintContent(painter, rect);
+        } else {
+            paintOutlined(painter, rect);
+        }
+    }
+}
+
+void ContentWidget::paintContent(QPainter& painter, const QRect& rect) {
+    QtGraphicsContext context(painter, fromQRectF(rect), devicePixelRatio());
+    m_content->rootView->paint(context, fromQRectF(rect));
+}
+
+void ContentWidget::paintOutlined(QPainter& painter, const QRect& rect) {
+    const CGFloat scale = devicePixelRatio();
+    const QRect pixels = devicePixels(fromQRectF(rect), scale);
+    QImage picture(pixels.size(), QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter into(&picture);
+    into.scale(scale, scale);
+    into.translate(-rect.topLeft());
+    paintContent(into, rect);
+    into.end();
+    m_inkMask->replace(pixels.topLeft(), picture);
+    picture.setDevicePixelRatio(scale);
+    painter.drawImage(rect.topLeft(), picture);
+}
+
+void ContentWidget::tellOutline() {
+    if (m_inkMask && onOutlined) {
+        QRegion outline = m_inkMask->region();
+        for (const QRect& child : childrenRegion()) {
+            outline += devicePixels(fromQRectF(child), devicePixelRatio());
+        }
+        onOutlined(outline);
     }
 }
 
@@ -114,6 +162,7 @@ void ContentWidget::update() {
     if (!region.isEmpty() && isVisible()) {
         repaint(region);
     }
+    tellOutline();
 }
 
 void ContentWidget::updateTextField() {

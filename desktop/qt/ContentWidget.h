@@ -1,11 +1,13 @@
 #pragma once
 
+#include "desktop/qt/InkMask.h"
 #include "platform/Window.h"
 
 #include <QWidget>
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace quillon::desktop {
 
@@ -23,6 +25,13 @@ public:
     ~ContentWidget() override;
 
     void setContentView(const std::shared_ptr<HostingView>& view);
+
+    /// Without a compositor the outline of the picture is kept, so that the window can take it and
+    /// the rest of the screen stays to be seen.
+    void setComposited(bool composited);
+    bool isComposited() const { return !m_inkMask; }
+    /// Called with the outline, in device pixels, when it may have changed.
+    std::function<void(const QRegion&)> onOutlined;
 
     /// Whether a text field has the keyboard or is about to get it.
     bool isEditingText() const { return m_textField != nullptr; }
@@ -43,10 +52,14 @@ private:
     void updateTextField();
     void layoutContent();
     QRegion regionOf(const Damage& damage) const;
+    void paintContent(QPainter& painter, const QRect& rect);
+    void paintOutlined(QPainter& painter, const QRect& rect);
+    void tellOutline();
 
     std::function<void()> m_onPress;
     std::shared_ptr<HostingView> m_content;
     std::unique_ptr<TextFieldWidget> m_textField;
+    std::optional<InkMask> m_inkMask;
     bool m_isUpdatePending = false;
 };
 

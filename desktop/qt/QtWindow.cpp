@@ -1,12 +1,25 @@
 #include "desktop/qt/QtWindow.h"
 
 #include "desktop/qt/GlobalCoordinates.h"
-#include "desktop/x11/InputRegion.h"
+#include "desktop/x11/Compositor.h"
+#include "desktop/x11/WindowShape.h"
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTimer>
+#include <QWindow>
+
+#include <chrono>
+#include <cstdint>
+#include <vector>
 
 namespace quillon::desktop {
+
+namespace {
+
+constexpr std::chrono::milliseconds kGrabAgain{30};
+
+} // namespace
 
 QtWindow::QtWindow(Window& window, xcb_connection_t* connection)
     : m_window(window)
@@ -16,6 +29,7 @@ QtWindow::QtWindow(Window& window, xcb_connection_t* connection)
     m_widget.setWindowFlags(Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint |
                             Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint | Qt::Tool);
     m_widget.onEditingChanged = [this] { giveBackKeyboardIfUnused(); };
+    m_widget.onOutlined = [this](const QRegion& outline) { takeOutline(outline); };
     setFrame(window.frame());
     setIgnoresMouseEvents(window.ignoresMouseEvents());
 }
@@ -29,6 +43,7 @@ void QtWindow::setFrame(const CGRect& frame) {
 }
 
 void QtWindow::setIgnoresMouseEvents(bool ignores) {
+    followCompositor();
     setInputRegion(m_connection, nativeWindow(),
                    ignores ? InputRegion::empty : InputRegion::window);
     giveBackKeyboardIfUnused();
@@ -41,6 +56,42 @@ void QtWindow::setContentView(const std::shared_ptr<HostingView>& view) {
 void QtWindow::orderFrontRegardless() {
     m_widget.show();
     m_widget.raise();
+    followCompositor();
+}
+
+void QtWindow::followCompositor() {
+    const bool composited = isCompositorRunning(m_connection);
+    if (composited && !m_widget.isComposited()) {
+        clearOutline(m_connection, nativeWindow());
+    }
+    m_widget.setComposited(composited);
+    grabPointerIfNeeded();
+}
+
+void QtWindow::grabPointerIfNeeded() {
+    // A window with the outline of its picture meets the pointer nowhere else, so it takes the
+    // pointer as a whole. The server takes it back with the window.
+    const bool wanted =
+        !m_widget.isComposited() && m_widget.isVisible() && !m_window.ignoresMouseEvents();
+    if (m_grabsPointer == wanted) {
+        return;
+    }
+    const bool done = m_widget.windowHandle()->setMouseGrabEnabled(wanted);
+    m_grabsPointer = wanted && done;
+    if (wanted && !done) {
+        // Somebody else holds a button down; that passes.
+        QTimer::singleShot(kGrabAgain, &m_widget, [this] { grabPointerIfNeeded(); });
+    }
+}
+
+void QtWindow::takeOutline(const QRegion& outline) {
+    std::vector<xcb_rectangle_t> rectangles;
+    for (const QRect& rect : outline) {
+        rectangles.push_back(
+            {static_cast<std::int16_t>(rect.x()), static_cast<std::int16_t>(rect.y()),
+             static_cast<std::uint16_t>(rect.width()), static_cast<std::uint16_t>(rect.height())});
+    }
+    setOutline(m_connection, nativeWindow(), rectangles);
 }
 
 void QtWindow::makeKeyAndOrderFront() {

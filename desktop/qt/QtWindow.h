@@ -27,6 +27,10 @@ public:
     void orderOut() override;
 
 private:
+    /// Looks whether there is a compositor; done whenever the window's input or order changes.
+    void followCompositor();
+    void grabPointerIfNeeded();
+    void takeOutline(const QRegion& outline);
     void takeKeyboard();
     void giveBackKeyboardIfUnused();
     xcb_window_t nativeWindow() const { return static_cast<xcb_window_t>(m_widget.winId()); }
@@ -35,6 +39,7 @@ private:
     xcb_connection_t* m_connection;
     KeyboardFocus m_keyboard;
     ContentWidget m_widget;
+    bool m_grabsPointer = false;
 };
 
 } // namespace quillon::desktop

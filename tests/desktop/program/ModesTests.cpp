@@ -82,5 +82,44 @@ TEST_F(Modes, the_overlay_stays_above_a_window_that_comes_later) {
     EXPECT_TRUE(showsInk({200, 100}));
 }
 
+/// The same on a desktop where no window can be translucent.
+class WithoutCompositor : public ProgramTest {
+protected:
+    WithoutCompositor()
+        : ProgramTest({.width = 900, .height = 600, .hasCompositor = false}) {}
+
+    bool isCaught(Pixel place) {
+        const int before = below.pressCount();
+        input.click(place);
+        return stays([&] { return below.pressCount() == before; }, std::chrono::milliseconds(150));
+    }
+};
+
+TEST_F(WithoutCompositor, the_screen_stays_to_be_seen_round_the_strokes) {
+    prepareTool(DrawingTool::pen);
+    start();
+    toggleAnnotation();
+    ASSERT_TRUE(eventually([this] { return isCaught({500, 400}); }));
+    EXPECT_TRUE(showsBackground({450, 300}));
+    input.drag({{100, 100}, {300, 100}});
+    EXPECT_TRUE(showsInk({200, 100}));
+    EXPECT_TRUE(showsBackground({200, 120}));
+    clear();
+    EXPECT_TRUE(showsBackground({200, 100}));
+}
+
+TEST_F(WithoutCompositor, with_annotation_off_clicks_reach_below_also_through_the_strokes) {
+    prepareTool(DrawingTool::pen);
+    start();
+    toggleAnnotation();
+    ASSERT_TRUE(eventually([this] { return isCaught({500, 400}); }));
+    input.drag({{100, 100}, {300, 100}});
+    ASSERT_TRUE(showsInk({200, 100}));
+    toggleAnnotation();
+    EXPECT_TRUE(eventually([this] { return !isCaught({500, 400}); }));
+    EXPECT_FALSE(isCaught({200, 100}));
+    EXPECT_TRUE(showsInk({200, 100}));
+}
+
 } // namespace
 } // namespace quillon::test

@@ -22,7 +22,10 @@ inline constexpr Rgb kInk{255, 0, 0};
 /// is tried.
 class ProgramTest : public testing::Test {
 protected:
-    ProgramTest() = default;
+    ProgramTest()
+        : ProgramTest({.width = 900, .height = 600}) {}
+    explicit ProgramTest(const VirtualDesktop::Options& options)
+        : desktop(options) {}
 
     /// Changes the settings while the program does not run. The colour is red, unless changed.
     void prepare(const std::function<void(AppSettings&)>& change) {
@@ -71,7 +74,7 @@ protected:
     bool showsInk(Pixel place) { return screen.waitForColor(place, kInk); }
     bool showsBackground(Pixel place) { return screen.waitForColor(place, kBackground); }
 
-    VirtualDesktop desktop{{.width = 900, .height = 600}};
+    VirtualDesktop desktop;
     InputDriver input{desktop.connection()};
     ScreenReader screen{desktop.connection()};
     ProbeWindow below{desktop.display(), {0, 40, 900, 560}, kBackground};
