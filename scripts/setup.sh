@@ -10,13 +10,13 @@ build_packages=(
 
 # A desktop without a screen, and what draws, reads and drives it.
 virtual_desktop_packages=(
-    xvfb picom openbox libgtest-dev libpng-dev libxcb-xtest0-dev
+    xvfb picom openbox tint2 libgtest-dev libpng-dev libxcb-xtest0-dev
 )
 
-test_packages=(clang-format tint2)
+test_packages=(clang-format)
 
 build_commands=(cmake c++ ninja pkg-config)
-virtual_desktop_commands=(Xvfb picom openbox)
+virtual_desktop_commands=(Xvfb picom openbox tint2)
 
 say() {
     printf '%s\n' "$*"

@@ -1,24 +1,12 @@
 #include "desktop/program/ProgramTest.h"
 
-#include <fstream>
+#include <optional>
 
 namespace quillon::test {
 namespace {
 
 class TrayItem : public ProgramTest {
 protected:
-    void startTray() {
-        const std::string settings = desktop.configFolder() + "/tray.conf";
-        std::ofstream(settings) << "panel_items = S\npanel_size = 100% 30\n"
-                                   "panel_position = top center horizontal\npanel_layer = top\n"
-                                   "rounded = 0\nbackground_color = #202020 100\n"
-                                   "panel_background_id = 1\n";
-        desktop.start({"tint2", "-c", settings});
-        ASSERT_TRUE(eventually([this] {
-            return desktop.connection().selectionOwner("_NET_SYSTEM_TRAY_S0") != XCB_NONE;
-        }));
-    }
-
     /// Where something lighter than the panel stands in its middle row.
     std::optional<Pixel> findItem() {
         std::optional<Pixel> found;
@@ -37,7 +25,7 @@ protected:
 };
 
 TEST_F(TrayItem, a_click_opens_the_menu_and_quit_ends_the_program) {
-    startTray();
+    desktop.startTray();
     start();
     const auto item = findItem();
     ASSERT_TRUE(item);
@@ -49,7 +37,7 @@ TEST_F(TrayItem, a_click_opens_the_menu_and_quit_ends_the_program) {
 
 TEST_F(TrayItem, it_appears_when_the_tray_comes_up_after_the_program) {
     start();
-    startTray();
+    desktop.startTray();
     EXPECT_TRUE(findItem());
 }
 

@@ -20,6 +20,16 @@ use-damage = true;
 detect-client-opacity = true;
 )";
 
+constexpr const char* kPanelSettings = R"(rounded = 0
+background_color = #20262e 100
+
+panel_items = S
+panel_size = 100% 30
+panel_position = top center horizontal
+panel_layer = top
+panel_background_id = 1
+)";
+
 /// Reads the display number that the server writes once it is ready.
 std::string readDisplayNumber(int descriptor) {
     std::string number;
@@ -64,6 +74,17 @@ ChildProcess::Environment VirtualDesktop::environment() const {
         {"DBUS_SESSION_BUS_ADDRESS", "disabled:"},
         {"NO_AT_BRIDGE", "1"},
     };
+}
+
+void VirtualDesktop::startTray() {
+    const std::string settings = m_home.path() + "/panel.conf";
+    std::ofstream(settings) << kPanelSettings;
+    start({"tint2", "-c", settings});
+    const bool isReady = eventually(
+        [this] { return m_connection->selectionOwner("_NET_SYSTEM_TRAY_S0") != XCB_NONE; });
+    if (!isReady) {
+        throw std::runtime_error("the tray did not start");
+    }
 }
 
 ChildProcess& VirtualDesktop::start(const std::vector<std::string>& command) {

@@ -31,6 +31,10 @@ public:
     /// The environment of a program that belongs to this desktop, and of nothing else around.
     ChildProcess::Environment environment() const;
 
+    /// Starts a panel with a tray along the upper edge, 30 pixels high, and waits until it takes
+    /// items.
+    void startTray();
+
     /// Starts a program of the desktop, such as a tray, which then runs to the end.
     ChildProcess& start(const std::vector<std::string>& command);
 

@@ -11,7 +11,6 @@
 #include <cmath>
 #include <cstdio>
 #include <exception>
-#include <fstream>
 #include <functional>
 #include <memory>
 #include <numbers>
@@ -40,7 +39,7 @@ public:
 
 private:
     void showMenu() {
-        startTray();
+        m_desktop.startTray();
         restartWith(DrawingTool::pen, Color::red, 5);
         m_input.click({22, 15});
         settle();
@@ -138,18 +137,6 @@ private:
             places.push_back({start.x + x, start.y + static_cast<int>(24 * std::sin(x / 32.0))});
         }
         return places;
-    }
-
-    void startTray() {
-        const std::string settings = m_desktop.configFolder() + "/tray.conf";
-        std::ofstream(settings) << "rounded = 0\nbackground_color = #20262e 100\n\n"
-                                   "panel_items = S\npanel_size = 100% 30\n"
-                                   "panel_position = top center horizontal\n"
-                                   "panel_layer = top\npanel_background_id = 1\n";
-        m_desktop.start({"tint2", "-c", settings});
-        eventually([this] {
-            return m_desktop.connection().selectionOwner("_NET_SYSTEM_TRAY_S0") != XCB_NONE;
-        });
     }
 
     void withSettings(const std::function<void(AppSettings&)>& change) {
