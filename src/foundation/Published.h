@@ -13,11 +13,12 @@ class ObservableObject {
 public:
     Subject<> objectWillChange;
 
+    ObservableObject(const ObservableObject&) = delete;
+    ObservableObject& operator=(const ObservableObject&) = delete;
+
 protected:
     ObservableObject() = default;
     ~ObservableObject() = default;
-    ObservableObject(const ObservableObject&) = delete;
-    ObservableObject& operator=(const ObservableObject&) = delete;
 };
 
 /// One observable property of an `ObservableObject`.
@@ -56,7 +57,10 @@ public:
         set(std::move(value));
         return *this;
     }
-    Published& operator=(const Published& other) { return *this = other.m_value; }
+    Published& operator=(const Published& other) {
+        set(other.m_value);
+        return *this;
+    }
 
     /// Changes the value where it stands. It announces like an assignment; the copy that an
     /// assignment would need is made only when somebody subscribed to the value itself.

@@ -69,12 +69,12 @@ std::optional<UUID> UUID::fromString(std::string_view text) {
 std::string UUID::uuidString() const {
     std::string text;
     text.reserve(36);
-    for (std::size_t i = 0; i < m_bytes.size(); ++i) {
+    for (const std::uint8_t byte : m_bytes) {
         if (isHyphenPlace(text.size())) {
             text += '-';
         }
-        text += kDigits[m_bytes[i] >> 4];
-        text += kDigits[m_bytes[i] & 0x0F];
+        text += kDigits[byte >> 4];
+        text += kDigits[byte & 0x0F];
     }
     return text;
 }
