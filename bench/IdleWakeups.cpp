@@ -9,7 +9,6 @@
 
 #include <exception>
 #include <iostream>
-#include <ranges>
 #include <thread>
 
 using namespace quillon;
@@ -42,8 +41,10 @@ int main(int count, char** arguments) {
         const int seconds = option({arguments + 1, arguments + count}, "--seconds", 30);
         std::cout << head({"idle for " + std::to_string(seconds) + " s", "wake-ups",
                            "processor ticks", "RSS MB", "USS MB"});
+        auto programs = penPrograms();
         // The bare pen knows no tray.
-        for (const PenProgram& program : penPrograms() | std::views::drop(1)) {
+        programs.erase(programs.begin());
+        for (const PenProgram& program : programs) {
             test::VirtualDesktop desktop;
             startTray(desktop);
             const auto pen = program.start(desktop);
