@@ -69,11 +69,15 @@ require_commands() {
     fi
 }
 
-# configure PRESET [OPTION...]: with a compiler cache where there is one.
+# configure PRESET [OPTION...]: with a compiler cache where there is one; quiet while all is well.
 configure() {
     local launcher=()
     if command -v ccache >/dev/null; then
         launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
     fi
-    cmake --preset "$1" "${launcher[@]}" "${@:2}"
+    mkdir -p build
+    if ! cmake --preset "$1" "${launcher[@]}" "${@:2}" >build/configure.log 2>&1; then
+        cat build/configure.log >&2
+        return 1
+    fi
 }
