@@ -3,12 +3,9 @@
 
 #include "desktop/support/XConnection.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <exception>
 #include <iostream>
-#include <iterator>
-#include <optional>
 #include <stdexcept>
 
 using quillon::test::XConnection;
