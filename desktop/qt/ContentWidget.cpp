@@ -10,6 +10,7 @@
 #include <QPainter>
 #include <QtMath>
 
+#include <chrono>
 #include <utility>
 
 namespace quillon::desktop {
@@ -17,6 +18,9 @@ namespace quillon::desktop {
 namespace {
 
 const QEvent::Type kUpdateContent = static_cast<QEvent::Type>(QEvent::registerEventType());
+
+/// A motion that comes this long after the last update is no part of a burst.
+constexpr std::chrono::milliseconds kQuiet{2};
 
 /// The smallest number of points that is a whole number of device pixels, so that a part painted by
 /// itself never shares a pixel with its surroundings. Scales are multiples of a 96th.
@@ -37,6 +41,7 @@ ContentWidget::ContentWidget(std::function<void()> onPress)
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_NoSystemBackground);
     setAttribute(Qt::WA_ShowWithoutActivating);
+    m_sinceLastUpdate.start();
 }
 
 ContentWidget::~ContentWidget() {
@@ -138,6 +143,7 @@ void ContentWidget::mousePressEvent(QMouseEvent* event) {
 void ContentWidget::mouseMoveEvent(QMouseEvent* event) {
     if (event->buttons().testFlag(Qt::LeftButton) && m_content) {
         m_content->rootView->mouseDragged(fromQPointF(event->position()));
+        updateAtOnceIfQuiet();
     }
 }
 
@@ -153,7 +159,14 @@ void ContentWidget::requestUpdate() {
     }
 }
 
+void ContentWidget::updateAtOnceIfQuiet() {
+    if (m_isUpdatePending && m_sinceLastUpdate.hasExpired(kQuiet.count())) {
+        update();
+    }
+}
+
 void ContentWidget::update() {
+    m_sinceLastUpdate.start();
     if (!m_content) {
         return;
     }

@@ -3,6 +3,7 @@
 #include "desktop/qt/InkMask.h"
 #include "platform/Window.h"
 
+#include <QElapsedTimer>
 #include <QWidget>
 
 #include <functional>
@@ -48,6 +49,9 @@ protected:
 
 private:
     void requestUpdate();
+    /// Spares a motion that stands alone the way through the event queue, while in a burst the
+    /// update still waits behind all input that has arrived.
+    void updateAtOnceIfQuiet();
     void update();
     void updateTextField();
     void layoutContent();
@@ -61,6 +65,7 @@ private:
     std::unique_ptr<TextFieldWidget> m_textField;
     std::optional<InkMask> m_inkMask;
     bool m_isUpdatePending = false;
+    QElapsedTimer m_sinceLastUpdate;
 };
 
 } // namespace quillon::desktop
