@@ -4,6 +4,7 @@
 #include "desktop/qt/QtGraphicsContext.h"
 #include "desktop/qt/TextFieldWidget.h"
 
+#include <QBackingStore>
 #include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -89,7 +90,12 @@ void ContentWidget::paintEvent(QPaintEvent* event) {
         return;
     }
     QPainter painter(this);
-    for (const QRect& rect : event->region()) {
+    paintRegion(painter, event->region());
+    m_paintedSize = size();
+}
+
+void ContentWidget::paintRegion(QPainter& painter, const QRegion& region) {
+    for (const QRect& rect : region) {
         if (isComposited()) {
             painter.setClipRect(rect);
             paintContent(painter, rect);
@@ -97,6 +103,22 @@ void ContentWidget::paintEvent(QPaintEvent* event) {
             paintOutlined(painter, rect);
         }
     }
+}
+
+void ContentWidget::putOnScreen(const QRegion& region) {
+    // The widget system would go through all that could lie in the region. With no child there,
+    // and the store painted before in its present size, there is nothing but the content.
+    QBackingStore* store = backingStore();
+    if (!store || m_paintedSize != size() || childrenRegion().intersects(region)) {
+        repaint(region);
+        return;
+    }
+    store->beginPaint(region);
+    QPainter painter(store->paintDevice());
+    paintRegion(painter, region);
+    painter.end();
+    store->endPaint();
+    store->flush(region);
 }
 
 void ContentWidget::paintContent(QPainter& painter, const QRect& rect) {
@@ -173,7 +195,7 @@ void ContentWidget::update() {
     const QRegion region = regionOf(m_content->rootView->takeDamage());
     updateTextField();
     if (!region.isEmpty() && isVisible()) {
-        repaint(region);
+        putOnScreen(region);
     }
     tellOutline();
 }

@@ -56,6 +56,9 @@ private:
     void updateTextField();
     void layoutContent();
     QRegion regionOf(const Damage& damage) const;
+    /// Paints the region and puts it on the screen at once.
+    void putOnScreen(const QRegion& region);
+    void paintRegion(QPainter& painter, const QRegion& region);
     void paintContent(QPainter& painter, const QRect& rect);
     void paintOutlined(QPainter& painter, const QRect& rect);
     void tellOutline();
@@ -66,6 +69,7 @@ private:
     std::optional<InkMask> m_inkMask;
     bool m_isUpdatePending = false;
     QElapsedTimer m_sinceLastUpdate;
+    QSize m_paintedSize;
 };
 
 } // namespace quillon::desktop
