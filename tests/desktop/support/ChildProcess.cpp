@@ -111,16 +111,4 @@ void ChildProcess::reap() {
     }
 }
 
-TemporaryFolder::TemporaryFolder()
-    : m_path(std::filesystem::temp_directory_path() / "quillon-test-XXXXXX") {
-    if (!mkdtemp(m_path.data())) {
-        throw std::runtime_error("no temporary folder could be made");
-    }
-}
-
-TemporaryFolder::~TemporaryFolder() {
-    std::error_code error;
-    std::filesystem::remove_all(m_path, error);
-}
-
 } // namespace quillon::test

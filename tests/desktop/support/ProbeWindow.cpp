@@ -1,7 +1,5 @@
 #include "desktop/support/ProbeWindow.h"
 
-#include <cstring>
-
 namespace quillon::test {
 
 namespace {
@@ -56,18 +54,13 @@ bool ProbeWindow::hasKeyboard() {
 }
 
 void ProbeWindow::activate() {
-    xcb_client_message_event_t message{};
-    message.response_type = XCB_CLIENT_MESSAGE;
-    message.format = 32;
-    message.window = m_window;
-    message.type = m_connection.atom("_NET_ACTIVE_WINDOW");
-    message.data.data32[0] = 2;
-    char event[32];
-    std::memcpy(event, &message, sizeof event);
-    xcb_send_event(m_connection.get(), 0, m_connection.root(),
-                   XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
-                   event);
-    m_connection.synchronise();
+    m_connection.askWindowManager("_NET_ACTIVE_WINDOW", m_window, {2});
+}
+
+void ProbeWindow::fillScreen() {
+    const std::uint32_t add = 1;
+    m_connection.askWindowManager("_NET_WM_STATE", m_window,
+                                  {add, m_connection.atom("_NET_WM_STATE_FULLSCREEN")});
 }
 
 void ProbeWindow::countEvents() {

@@ -26,6 +26,9 @@ public:
     bool hasKeyboard();
     /// Asks the window manager for the keyboard, as a click on a task bar would.
     void activate();
+    /// Asks the window manager for the whole screen, above panels, as a film player would.
+    void fillScreen();
+    xcb_window_t id() const { return m_window; }
 
 private:
     void countEvents();

@@ -1,6 +1,7 @@
 #include "desktop/support/VirtualDesktop.h"
 
 #include <poll.h>
+#include <signal.h>
 #include <unistd.h>
 
 #include <cstdlib>
@@ -79,12 +80,31 @@ ChildProcess::Environment VirtualDesktop::environment() const {
 void VirtualDesktop::startTray() {
     const std::string settings = m_home.path() + "/panel.conf";
     std::ofstream(settings) << kPanelSettings;
-    start({"tint2", "-c", settings});
+    m_tray = &start({"tint2", "-c", settings});
     const bool isReady = eventually(
         [this] { return m_connection->selectionOwner("_NET_SYSTEM_TRAY_S0") != XCB_NONE; });
     if (!isReady) {
         throw std::runtime_error("the tray did not start");
     }
+}
+
+void VirtualDesktop::stopTray() {
+    m_tray->sendSignal(SIGTERM);
+    m_tray->waitForExit();
+}
+
+void VirtualDesktop::stopCompositor() {
+    m_compositor->sendSignal(SIGTERM);
+    m_compositor->waitForExit();
+}
+
+void VirtualDesktop::stopServer() {
+    m_server->sendSignal(SIGTERM);
+    m_server->waitForExit();
+}
+
+void VirtualDesktop::showWorkspace(std::uint32_t index) {
+    m_connection->askWindowManager("_NET_CURRENT_DESKTOP", m_connection->root(), {index});
 }
 
 ChildProcess& VirtualDesktop::start(const std::vector<std::string>& command) {
@@ -115,7 +135,7 @@ void VirtualDesktop::startServer(const Options& options) {
 void VirtualDesktop::startCompositor() {
     const std::string settings = m_home.path() + "/picom.conf";
     std::ofstream(settings) << kCompositorSettings;
-    start({"picom", "--config", settings});
+    m_compositor = &start({"picom", "--config", settings});
     if (!eventually([this] { return m_connection->selectionOwner("_NET_WM_CM_S0") != XCB_NONE; })) {
         throw std::runtime_error("the compositor did not start");
     }

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "desktop/support/ChildProcess.h"
+#include "desktop/support/TemporaryFolder.h"
 #include "desktop/support/XConnection.h"
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -34,6 +36,12 @@ public:
     /// Starts a panel with a tray along the upper edge, 30 pixels high, and waits until it takes
     /// items.
     void startTray();
+    void stopTray();
+    void stopCompositor();
+    /// Takes the display away from everybody.
+    void stopServer();
+    /// As a task bar's switch of desktops would.
+    void showWorkspace(std::uint32_t index);
 
     /// Starts a program of the desktop, such as a tray, which then runs to the end.
     ChildProcess& start(const std::vector<std::string>& command);
@@ -49,6 +57,8 @@ private:
     std::string m_display;
     // The clients go before the server does.
     std::unique_ptr<ChildProcess> m_server;
+    ChildProcess* m_tray = nullptr;
+    ChildProcess* m_compositor = nullptr;
     std::vector<std::unique_ptr<ChildProcess>> m_clients;
     std::unique_ptr<XConnection> m_connection;
 };

@@ -1,5 +1,8 @@
 #include "desktop/support/XConnection.h"
 
+#include <algorithm>
+#include <cstring>
+#include <iterator>
 #include <stdexcept>
 
 namespace quillon::test {
@@ -35,6 +38,34 @@ xcb_window_t XConnection::focusedWindow() const {
     const XOwned<xcb_get_input_focus_reply_t> reply(
         xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
     return reply ? reply->focus : static_cast<xcb_window_t>(XCB_NONE);
+}
+
+std::vector<std::uint32_t> XConnection::property(xcb_window_t window,
+                                                 const std::string& name) const {
+    const auto cookie = xcb_get_property(m_connection, 0, window, atom(name), XCB_ATOM_ANY, 0, 64);
+    const XOwned<xcb_get_property_reply_t> reply(
+        xcb_get_property_reply(m_connection, cookie, nullptr));
+    if (!reply || reply->format != 32) {
+        return {};
+    }
+    const auto* values = static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
+    return {values, values + reply->value_len};
+}
+
+void XConnection::askWindowManager(const std::string& message, xcb_window_t window,
+                                   const std::vector<std::uint32_t>& values) const {
+    xcb_client_message_event_t event{};
+    event.response_type = XCB_CLIENT_MESSAGE;
+    event.format = 32;
+    event.window = window;
+    event.type = atom(message);
+    std::copy(values.begin(), values.end(), std::begin(event.data.data32));
+    char bytes[32];
+    std::memcpy(bytes, &event, sizeof bytes);
+    xcb_send_event(m_connection, 0, root(),
+                   XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                   bytes);
+    synchronise();
 }
 
 void XConnection::synchronise() const {

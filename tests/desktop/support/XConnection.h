@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace quillon::test {
 
@@ -32,6 +33,11 @@ public:
     /// Who owns a selection; `XCB_NONE` when nobody does.
     xcb_window_t selectionOwner(const std::string& name) const;
     xcb_window_t focusedWindow() const;
+    /// The 32-bit values of a property of a window, at most 64 of them; empty when there is none.
+    std::vector<std::uint32_t> property(xcb_window_t window, const std::string& name) const;
+    /// Sends a message about a window to the window manager, as a pager or task bar does.
+    void askWindowManager(const std::string& message, xcb_window_t window,
+                          const std::vector<std::uint32_t>& values) const;
     /// Returns once the server has carried out everything that was asked so far.
     void synchronise() const;
 
