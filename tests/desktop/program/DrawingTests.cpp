@@ -48,12 +48,13 @@ TEST_F(Drawing, every_place_that_the_pointer_passed_becomes_a_point) {
     }
 }
 
-TEST_F(Drawing, the_highlighter_leaves_its_line_over_a_later_pen_stroke) {
+TEST_F(Drawing, the_highlighter_leaves_a_line_of_its_width) {
     prepareTool(DrawingTool::highlighter, 20);
     startAnnotating();
     input.drag({{100, 100}, {300, 100}});
     EXPECT_TRUE(showsInk({200, 100}));
     EXPECT_TRUE(showsInk({200, 107}));
+    EXPECT_TRUE(showsBackground({200, 125}));
 }
 
 TEST_F(Drawing, the_rectangle_is_an_outline_and_not_filled) {

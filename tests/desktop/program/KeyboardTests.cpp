@@ -64,6 +64,27 @@ TEST_F(Keyboard, text_is_committed_by_return_right_and_below_of_the_press) {
     EXPECT_TRUE(showsBackground({280, 200}));
 }
 
+TEST_F(Keyboard, no_key_typed_into_the_field_reaches_the_window_below) {
+    openFieldAt({300, 200});
+    const int before = below.keyCount();
+    input.type("Hill 12");
+    input.tap("Return");
+    ASSERT_TRUE(showsText({300, 200}));
+    EXPECT_EQ(below.keyCount(), before);
+}
+
+TEST_F(Keyboard, what_was_typed_can_be_corrected_before_it_is_committed) {
+    openFieldAt({300, 200});
+    input.type("WWWWWW");
+    for (int count = 0; count < 5; ++count) {
+        input.tap("BackSpace");
+    }
+    input.tap("Return");
+    ASSERT_TRUE(showsText({300, 200}));
+    EXPECT_TRUE(hasInkInRow(212, 300, 330));
+    EXPECT_FALSE(hasInkInRow(212, 335, 450));
+}
+
 TEST_F(Keyboard, escape_keeps_what_was_typed) {
     openFieldAt({300, 200});
     input.type("Hill");
@@ -119,9 +140,28 @@ TEST_F(Keyboard, a_held_shortcut_fires_once) {
     input.keyUp("s");
     input.keyUp("Shift_L");
     input.keyUp("Super_L");
+    toggleAnnotation();
+    EXPECT_TRUE(eventually([this] { return !takesPointer(); }));
 }
 
-TEST_F(Keyboard, shortcuts_work_with_num_lock_and_caps_lock_on) {
+TEST_F(Keyboard, no_key_of_a_shortcut_but_its_modifiers_reaches_the_window_with_the_keyboard) {
+    start();
+    const int before = below.keyCount();
+    toggleAnnotation();
+    ASSERT_TRUE(eventually([this] { return takesPointer(); }));
+    EXPECT_EQ(below.keyCount(), before + 2);
+}
+
+TEST_F(Keyboard, a_key_with_fewer_or_more_modifiers_than_its_shortcut_is_left_to_others) {
+    start();
+    const int before = below.keyCount();
+    input.chord({"Super_L", "s"});
+    input.chord({"Control_L", "Super_L", "Shift_L", "s"});
+    EXPECT_TRUE(eventually([&] { return below.keyCount() == before + 6; }));
+    EXPECT_FALSE(takesPointer());
+}
+
+TEST_F(Keyboard, shortcuts_work_with_any_of_the_locks_on) {
     start();
     input.tap("Num_Lock");
     toggleAnnotation();
@@ -133,6 +173,10 @@ TEST_F(Keyboard, shortcuts_work_with_num_lock_and_caps_lock_on) {
     toggleAnnotation();
     EXPECT_TRUE(eventually([this] { return takesPointer(); }));
     input.tap("Caps_Lock");
+    input.tap("Scroll_Lock");
+    toggleAnnotation();
+    EXPECT_TRUE(eventually([this] { return !takesPointer(); }));
+    input.tap("Scroll_Lock");
 }
 
 } // namespace

@@ -5,6 +5,9 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <memory>
+#include <string>
+#include <vector>
 
 namespace quillon::test {
 namespace {
@@ -73,6 +76,29 @@ TEST_F(Life, every_setting_is_found_again_after_a_restart) {
     });
 }
 
+TEST_F(Life, a_start_comes_up_in_the_mode_in_which_the_program_was_left) {
+    const auto isSheet = [](Rgb seen) { return seen.red > 225; };
+    prepareTool(DrawingTool::pen);
+    start();
+    toggleWhiteboard();
+    ASSERT_TRUE(screen.waitForPixel({450, 300}, isSheet));
+    stop();
+    ASSERT_TRUE(showsBackground({450, 300}));
+
+    start();
+    ASSERT_TRUE(screen.waitForPixel({450, 300}, isSheet));
+    input.drag({{100, 100}, {300, 100}});
+    EXPECT_TRUE(showsInk({200, 100}));
+    toggleAnnotation();
+    ASSERT_TRUE(showsBackground({450, 300}));
+    stop();
+
+    start();
+    EXPECT_FALSE(takesPointer());
+    toggleAnnotation();
+    EXPECT_TRUE(screen.waitForPixel({450, 300}, isSheet));
+}
+
 TEST_F(Life, a_change_survives_a_kill_right_after_it_and_the_pointer_is_free) {
     startAnnotating();
     program->kill();
@@ -81,6 +107,23 @@ TEST_F(Life, a_change_survives_a_kill_right_after_it_and_the_pointer_is_free) {
     EXPECT_TRUE(eventually([this] { return below.pressCount() == 1; }));
     EXPECT_TRUE(
         stored<bool>([](AppSettings& settings) { return settings.isAnnotationEnabled.get(); }));
+}
+
+TEST_F(Life, a_kill_in_the_middle_of_a_stroke_leaves_pointer_and_keyboard_to_the_others) {
+    prepareTool(DrawingTool::pen);
+    startAnnotating();
+    input.moveTo({100, 100});
+    input.press();
+    input.moveTo({200, 200});
+    ASSERT_TRUE(showsInk({150, 150}));
+    program->kill();
+    EXPECT_TRUE(showsBackground({150, 150}));
+    input.release();
+    input.click({200, 200});
+    EXPECT_TRUE(eventually([this] { return below.pressCount() == 1; }));
+    const int before = below.keyCount();
+    input.tap("a");
+    EXPECT_TRUE(eventually([&] { return below.keyCount() == before + 1; }));
 }
 
 TEST_F(Life, a_damaged_database_is_set_aside_and_the_program_starts_with_defaults) {
@@ -112,6 +155,32 @@ TEST_F(Life, a_second_start_hands_over_and_ends_with_0) {
     EXPECT_EQ(second.waitForExit(), 0);
     EXPECT_TRUE(program->process().isRunning());
     EXPECT_TRUE(takesPointer());
+}
+
+TEST_F(Life, of_several_starts_at_once_one_stays) {
+    std::vector<std::unique_ptr<ChildProcess>> starts;
+    for (int count = 0; count < 4; ++count) {
+        starts.push_back(std::make_unique<ChildProcess>(std::vector<std::string>{Program::path()},
+                                                        desktop.environment()));
+    }
+    const auto runningCount = [&] {
+        return std::count_if(starts.begin(), starts.end(),
+                             [](const auto& child) { return child->isRunning(); });
+    };
+    EXPECT_TRUE(eventually([&] { return runningCount() == 1; }));
+    int left = 0;
+    for (const auto& child : starts) {
+        if (!child->isRunning()) {
+            EXPECT_EQ(child->waitForExit(), 0) << child->standardError();
+            ++left;
+        }
+    }
+    EXPECT_EQ(left, 3);
+    const auto last = std::find_if(starts.begin(), starts.end(),
+                                   [](const auto& child) { return child->isRunning(); });
+    ASSERT_NE(last, starts.end());
+    (*last)->sendSignal(SIGTERM);
+    EXPECT_EQ((*last)->waitForExit(), 0);
 }
 
 class LifeEndedBy : public ProgramTest, public testing::WithParamInterface<int> {};

@@ -62,6 +62,48 @@ TEST_F(Modes, annotation_switched_off_hides_the_whiteboard_and_keeps_its_mode) {
     EXPECT_TRUE(screen.waitForPixel({450, 300}, [](Rgb seen) { return seen.red > 225; }));
 }
 
+TEST_F(Modes, annotation_switched_off_within_a_stroke_lets_the_next_click_through) {
+    prepareTool(DrawingTool::pen);
+    startAnnotating();
+    input.moveTo({100, 100});
+    input.press();
+    for (int x = 105; x <= 200; x += 5) {
+        input.moveTo({x, 100});
+    }
+    ASSERT_TRUE(showsInk({150, 100}));
+    toggleAnnotation();
+    ASSERT_TRUE(eventually([this] { return !takesPointer(); }));
+    input.release();
+    input.click({400, 300});
+    EXPECT_TRUE(eventually([this] { return below.pressCount() == 1; }));
+
+    toggleAnnotation();
+    ASSERT_TRUE(eventually([this] { return takesPointer(); }));
+    input.moveTo({500, 400});
+    input.drag({{500, 500}, {700, 500}});
+    EXPECT_TRUE(showsInk({600, 500}));
+    // Nothing joins the two strokes.
+    EXPECT_TRUE(showsBackground({500, 400}));
+    EXPECT_TRUE(showsBackground({350, 300}));
+}
+
+TEST_F(Modes, other_buttons_and_the_wheel_draw_nothing_and_reach_nobody) {
+    prepareTool(DrawingTool::pen);
+    startAnnotating();
+    for (const int button : {2, 3}) {
+        input.moveTo({100, 100});
+        input.press(button);
+        input.moveTo({200, 100});
+        input.moveTo({300, 100});
+        input.release(button);
+    }
+    input.click({200, 100}, 4);
+    input.drag({{100, 200}, {300, 200}});
+    ASSERT_TRUE(showsInk({200, 200}));
+    EXPECT_TRUE(showsBackground({200, 100}));
+    EXPECT_EQ(below.pressCount(), 0);
+}
+
 TEST_F(Modes, a_start_with_annotation_stored_on_takes_the_pointer_by_itself) {
     prepareTool(DrawingTool::pen);
     prepare([](AppSettings& settings) { settings.isAnnotationEnabled = true; });

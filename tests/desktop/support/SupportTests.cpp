@@ -1,6 +1,7 @@
 #include "desktop/support/InputDriver.h"
 #include "desktop/support/ProbeWindow.h"
 #include "desktop/support/ScreenReader.h"
+#include "desktop/support/ScreenSize.h"
 #include "desktop/support/VirtualDesktop.h"
 
 #include <gtest/gtest.h>
@@ -8,6 +9,7 @@
 #include <signal.h>
 
 #include <filesystem>
+#include <stdexcept>
 
 namespace quillon::test {
 namespace {
@@ -65,6 +67,14 @@ TEST_F(Support, another_workspace_hides_the_windows_of_this_one) {
     EXPECT_TRUE(screen.waitForPixel({100, 100}, [](Rgb seen) { return !isNear(seen, kBlue); }));
     desktop.showWorkspace(0);
     EXPECT_TRUE(screen.waitForColor({100, 100}, kBlue));
+}
+
+TEST_F(Support, the_screen_takes_another_size_and_its_old_one_again) {
+    changeScreenSize(desktop.connection(), 400, 300);
+    EXPECT_TRUE(screen.waitForColor({1, 1}, kBlue));
+    EXPECT_THROW(screen.pixel({500, 100}), std::runtime_error);
+    changeScreenSize(desktop.connection(), 640, 480);
+    EXPECT_NO_THROW(screen.pixel({639, 479}));
 }
 
 TEST_F(Support, a_saved_picture_is_a_file_with_something_in_it) {
