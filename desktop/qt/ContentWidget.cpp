@@ -60,7 +60,7 @@ void ContentWidget::setContentView(const std::shared_ptr<HostingView>& view) {
 bool ContentWidget::event(QEvent* event) {
     if (event->type() == kUpdateContent) {
         m_isUpdatePending = false;
-        update();
+        updateContent();
         return true;
     }
     // The scale is known for sure only on the screen where the window comes to stand.
@@ -183,11 +183,11 @@ void ContentWidget::requestUpdate() {
 
 void ContentWidget::updateAtOnceIfQuiet() {
     if (m_isUpdatePending && m_sinceLastUpdate.hasExpired(kQuiet.count())) {
-        update();
+        updateContent();
     }
 }
 
-void ContentWidget::update() {
+void ContentWidget::updateContent() {
     m_sinceLastUpdate.start();
     if (!m_content) {
         return;
@@ -219,6 +219,7 @@ void ContentWidget::updateTextField() {
 }
 
 void ContentWidget::layoutContent() {
+    m_paintedSize = {};
     if (m_content) {
         const CGSize points{static_cast<CGFloat>(width()), static_cast<CGFloat>(height())};
         m_content->rootView->layout(points, devicePixelRatio());

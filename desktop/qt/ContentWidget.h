@@ -52,7 +52,7 @@ private:
     /// Spares a motion that stands alone the way through the event queue, while in a burst the
     /// update still waits behind all input that has arrived.
     void updateAtOnceIfQuiet();
-    void update();
+    void updateContent();
     void updateTextField();
     void layoutContent();
     QRegion regionOf(const Damage& damage) const;
@@ -69,6 +69,8 @@ private:
     std::optional<InkMask> m_inkMask;
     bool m_isUpdatePending = false;
     QElapsedTimer m_sinceLastUpdate;
+    /// The size in which the widget system last painted; empty when it has yet to prepare the
+    /// store.
     QSize m_paintedSize;
 };
 
