@@ -7,38 +7,134 @@ namespace {
 
 class TrayItem : public ProgramTest {
 protected:
-    /// Where something lighter than the panel stands in its middle row.
+    /// Where something lighter than the panel stands in its middle rows.
     std::optional<Pixel> findItem() {
         std::optional<Pixel> found;
         eventually([&] {
-            for (int y = 8; y < 24 && !found; y += 2) {
-                for (int x = 0; x < 900 && !found; ++x) {
-                    if (screen.pixel({x, y}).red > 180) {
-                        found = Pixel{x, y};
-                    }
-                }
-            }
+            found = lightInPanel();
             return found.has_value();
         });
         return found;
     }
+
+    /// Clicks the item and waits for its menu, which hangs from the panel.
+    void openMenu(int button = 1) {
+        const auto item = findItem();
+        ASSERT_TRUE(item);
+        input.click(*item, button);
+        menuColumn = item->x + 60;
+        ASSERT_TRUE(screen.waitForPixel({menuColumn, 60}, isPaper));
+    }
+    bool isMenuClosed() {
+        return screen.waitForPixel({menuColumn, 60}, [](Rgb seen) { return !isPaper(seen); });
+    }
+    /// The last entry of the open menu, right above its lower edge.
+    Pixel lastEntry() {
+        int y = 60;
+        while (!isNear(screen.pixel({menuColumn, y}), kBackground)) {
+            ++y;
+        }
+        return {menuColumn, y - 12};
+    }
+
+    int menuColumn = 0;
+
+private:
+    std::optional<Pixel> lightInPanel() {
+        for (int y = 8; y < 24; y += 2) {
+            for (int x = 0; x < 900; ++x) {
+                if (screen.pixel({x, y}).red > 180) {
+                    return Pixel{x, y};
+                }
+            }
+        }
+        return std::nullopt;
+    }
+    static bool isPaper(Rgb seen) { return seen.red > 200; }
 };
 
-TEST_F(TrayItem, a_click_opens_the_menu_and_quit_ends_the_program) {
+TEST_F(TrayItem, a_click_opens_the_menu_and_a_click_on_quit_ends_the_program) {
     desktop.startTray();
     start();
-    const auto item = findItem();
-    ASSERT_TRUE(item);
-    input.click(*item);
-    ASSERT_TRUE(screen.waitForPixel({item->x + 60, 60}, [](Rgb seen) { return seen.red > 200; }));
+    openMenu();
+    input.click(lastEntry());
+    EXPECT_EQ(program->process().waitForExit(), 0);
+}
+
+TEST_F(TrayItem, the_keys_that_the_menu_shows_work_while_it_is_open) {
+    desktop.startTray();
+    start();
+    openMenu();
     input.chord({"Control_L", "q"});
     EXPECT_EQ(program->process().waitForExit(), 0);
+}
+
+TEST_F(TrayItem, the_other_button_opens_the_same_menu) {
+    desktop.startTray();
+    start();
+    openMenu(3);
+    input.click(lastEntry());
+    EXPECT_EQ(program->process().waitForExit(), 0);
+}
+
+TEST_F(TrayItem, escape_closes_the_menu_and_nothing_else_happens) {
+    desktop.startTray();
+    start();
+    openMenu();
+    input.tap("Escape");
+    EXPECT_TRUE(isMenuClosed());
+    EXPECT_TRUE(program->process().isRunning());
+    input.click({450, 300});
+    EXPECT_TRUE(eventually([this] { return below.pressCount() == 1; }));
+}
+
+TEST_F(TrayItem, the_menu_switches_the_whiteboard_on) {
+    prepareTool(DrawingTool::pen);
+    desktop.startTray();
+    start();
+    openMenu();
+    input.tap("Down");
+    input.tap("Down");
+    input.tap("Return");
+    ASSERT_TRUE(screen.waitForPixel({450, 500}, [](Rgb seen) { return seen.red > 225; }));
+    input.drag({{300, 300}, {500, 300}});
+    EXPECT_TRUE(showsInk({400, 300}));
+}
+
+TEST_F(TrayItem, the_menu_opens_over_a_drawing_left_standing_and_switches_annotation_on_again) {
+    prepareTool(DrawingTool::pen);
+    desktop.startTray();
+    startAnnotating();
+    input.drag({{300, 200}, {500, 200}});
+    ASSERT_TRUE(showsInk({400, 200}));
+    toggleAnnotation();
+    ASSERT_TRUE(eventually([this] { return !takesPointer(); }));
+    openMenu();
+    input.tap("Down");
+    input.tap("Return");
+    ASSERT_TRUE(isMenuClosed());
+    input.moveTo({300, 300});
+    ASSERT_TRUE(eventually([this] { return takesPointer(); }));
+    input.drag({{300, 300}, {500, 300}});
+    EXPECT_TRUE(showsInk({400, 300}));
+    EXPECT_TRUE(showsInk({400, 200}));
 }
 
 TEST_F(TrayItem, it_appears_when_the_tray_comes_up_after_the_program) {
     start();
     desktop.startTray();
     EXPECT_TRUE(findItem());
+}
+
+TEST_F(TrayItem, it_comes_back_with_a_tray_that_went_away) {
+    desktop.startTray();
+    start();
+    ASSERT_TRUE(findItem());
+    desktop.stopTray();
+    desktop.startTray();
+    openMenu();
+    input.click(lastEntry());
+    EXPECT_EQ(program->process().waitForExit(), 0);
 }
 
 } // namespace
