@@ -1,5 +1,7 @@
 #include "desktop/program/ProgramTest.h"
 
+#include <cmath>
+#include <numbers>
 #include <vector>
 
 namespace quillon::test {
@@ -46,6 +48,33 @@ TEST_F(Drawing, every_place_that_the_pointer_passed_becomes_a_point) {
     for (std::size_t tip = 2; tip < tips.size(); ++tip) {
         EXPECT_TRUE(showsInk(tips[tip])) << "tooth " << tip;
     }
+}
+
+TEST_F(Drawing, a_quick_ring_that_passes_its_own_start_is_whole) {
+    prepareTool(DrawingTool::pen);
+    startAnnotating();
+    std::vector<Pixel> places;
+    for (int degree = -100; degree <= 275; degree += 5) {
+        const double angle = degree * std::numbers::pi / 180;
+        const double radius = 200 + degree / 100.0;
+        places.push_back({450 + static_cast<int>(std::lround(radius * std::cos(angle))),
+                          300 + static_cast<int>(std::lround(radius * std::sin(angle)))});
+    }
+    constexpr int oneMotionFromPlaceToPlace = 100;
+    input.drag(places, oneMotionFromPlaceToPlace);
+    EXPECT_TRUE(showsInk({650, 300}));
+    EXPECT_TRUE(showsInk({450, 501}));
+    EXPECT_TRUE(showsInk({249, 300}));
+    EXPECT_TRUE(showsInk({450, 100}));
+}
+
+TEST_F(Drawing, a_stroke_that_comes_back_to_the_very_place_of_its_press_begins_anew_there) {
+    prepareTool(DrawingTool::pen);
+    startAnnotating();
+    input.drag({{100, 100}, {300, 100}, {300, 200}, {100, 100}, {100, 300}});
+    EXPECT_TRUE(showsInk({100, 200}));
+    EXPECT_TRUE(showsBackground({200, 100}));
+    EXPECT_TRUE(showsBackground({300, 150}));
 }
 
 TEST_F(Drawing, the_highlighter_leaves_a_line_of_its_width) {
