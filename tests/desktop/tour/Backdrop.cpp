@@ -1,6 +1,7 @@
 #include "desktop/tour/Backdrop.h"
 
 #include <array>
+#include <cstring>
 
 namespace quillon::test {
 
@@ -10,8 +11,12 @@ constexpr std::uint32_t kDesk = 0x2C3E50;
 constexpr std::uint32_t kPaper = 0xFBFBF8;
 constexpr std::uint32_t kTitle = 0x34495E;
 constexpr std::uint32_t kText = 0xC3C9D0;
-constexpr std::array<std::uint32_t, 5> kBars{0x9FB8CC, 0x9FB8CC, 0x5B8DB8, 0x9FB8CC, 0x7FA3C0};
-constexpr std::array<int, 5> kBarHeights{140, 210, 330, 180, 260};
+/// The foot of the chart, from the top of the page.
+constexpr int kGround = 640;
+constexpr std::uint32_t kBar = 0x9FB8CC;
+constexpr std::uint32_t kChosenBar = 0x4A86B8;
+constexpr int kBarCount = 5;
+constexpr std::array<int, kBarCount> kBarHeights{140, 210, 330, 180, 260};
 
 } // namespace
 
@@ -21,11 +26,11 @@ Backdrop::Backdrop(const std::string& display)
     , m_pen(xcb_generate_id(m_connection.get())) {
     const auto& screen = m_connection.screen();
     // Outside of the window manager's hands it stays the lowest.
-    const std::uint32_t values[] = {kDesk, 1};
+    const std::uint32_t values[] = {kDesk, 1, XCB_EVENT_MASK_BUTTON_PRESS};
     xcb_create_window(m_connection.get(), XCB_COPY_FROM_PARENT, m_window, screen.root, 0, 0,
                       screen.width_in_pixels, screen.height_in_pixels, 0,
                       XCB_WINDOW_CLASS_INPUT_OUTPUT, screen.root_visual,
-                      XCB_CW_BACK_PIXEL | XCB_CW_OVERRIDE_REDIRECT, values);
+                      XCB_CW_BACK_PIXEL | XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK, values);
     xcb_create_gc(m_connection.get(), m_pen, m_window, 0, nullptr);
     const std::uint32_t lowest = XCB_STACK_MODE_BELOW;
     xcb_configure_window(m_connection.get(), m_window, XCB_CONFIG_WINDOW_STACK_MODE, &lowest);
@@ -44,13 +49,39 @@ void Backdrop::paint() {
     for (int line = 0; line < 7; ++line) {
         fill(kText, left + 80, top + 190 + line * 52, line % 3 == 2 ? 380 : 520, 16);
     }
-    const int ground = top + 640;
-    for (std::size_t bar = 0; bar < kBars.size(); ++bar) {
-        const int x = left + 760 + static_cast<int>(bar) * 110;
-        fill(kBars[bar], x, ground - kBarHeights[bar], 70, kBarHeights[bar]);
+    followClicks();
+    for (int bar = 0; bar < kBarCount; ++bar) {
+        const xcb_rectangle_t area = barArea(bar);
+        fill(bar == m_chosenBar ? kChosenBar : kBar, area.x, area.y, area.width, area.height);
     }
-    fill(kTitle, left + 740, ground, 560, 4);
+    fill(kTitle, left + 740, top + kGround, 560, 4);
     m_connection.synchronise();
+}
+
+void Backdrop::followClicks() {
+    while (const XOwned<xcb_generic_event_t> event{xcb_poll_for_event(m_connection.get())}) {
+        if ((event->response_type & 0x7F) != XCB_BUTTON_PRESS) {
+            continue;
+        }
+        xcb_button_press_event_t press{};
+        std::memcpy(&press, event.get(), sizeof press);
+        for (int bar = 0; bar < kBarCount; ++bar) {
+            const xcb_rectangle_t area = barArea(bar);
+            if (press.event_x >= area.x && press.event_x < area.x + area.width &&
+                press.event_y >= area.y && press.event_y < area.y + area.height) {
+                m_chosenBar = bar;
+            }
+        }
+    }
+}
+
+xcb_rectangle_t Backdrop::barArea(int bar) const {
+    const auto& screen = m_connection.screen();
+    const int height = kBarHeights.at(static_cast<std::size_t>(bar));
+    const int x = screen.width_in_pixels / 8 + 760 + bar * 110;
+    const int y = screen.height_in_pixels / 9 + kGround - height;
+    return {static_cast<std::int16_t>(x), static_cast<std::int16_t>(y), 70,
+            static_cast<std::uint16_t>(height)};
 }
 
 void Backdrop::fill(std::uint32_t color, int x, int y, int width, int height) {

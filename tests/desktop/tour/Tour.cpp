@@ -33,7 +33,7 @@ public:
         showMenu();
         drawOverTheScreen();
         typeText();
-        eraseAndFade();
+        fade();
         useTheWhiteboard();
     }
 
@@ -57,18 +57,26 @@ private:
 
         restartWith(DrawingTool::pen, Color::red, 6);
         toggleAnnotation();
-        m_input.drag(circleRound({1245, 590}, 110, 200));
-        m_input.drag(wave({330, 690}, 480));
+        drawSmoothly(circleRound({1245, 590}, 110, 200));
+        drawSmoothly(wave({330, 690}, 480));
         picture("drawn-with-the-pen");
         toggleAnnotation();
+        // Another bar of the page below, inside of the ring.
+        m_input.click({1160, 640});
         settle();
-        picture("clicks-reach-below-again-and-the-drawing-stays");
+        picture("a-click-chose-another-bar-below-and-the-drawing-stays");
         toggleAnnotation();
 
         restartWith(DrawingTool::arrow, Color::purple, 6);
         toggleAnnotation();
         m_input.drag({{900, 260}, {1170, 380}});
         picture("an-arrow");
+
+        restartWith(DrawingTool::line, Color::orange, 6);
+        toggleAnnotation();
+        m_input.drag({{320, 260}, {884, 260}});
+        m_input.drag({{990, 480}, {1540, 480}});
+        picture("lines");
 
         restartWith(DrawingTool::rectangle, Color::green, 5);
         toggleAnnotation();
@@ -90,7 +98,7 @@ private:
         picture("text-committed");
     }
 
-    void eraseAndFade() {
+    void fade() {
         withSettings(
             [](AppSettings& settings) { settings.autoEraseTimer = AutoEraseTimer::twoSeconds; });
         restartWith(DrawingTool::circle, Color::orange, 8);
@@ -108,8 +116,8 @@ private:
         restartWith(DrawingTool::pen, Color::indigo, 5);
         m_input.chord({"Super_L", "Shift_L", "w"});
         settle(600);
-        m_input.drag(circleRound({700, 500}, 240, 240));
-        m_input.drag(wave({1050, 500}, 480));
+        drawSmoothly(circleRound({700, 500}, 240, 240));
+        drawSmoothly(wave({1050, 500}, 480));
         picture("the-whiteboard");
         m_input.chord({"Super_L", "Shift_L", "c"});
         settle();
@@ -121,19 +129,25 @@ private:
         m_program->terminate();
     }
 
+    /// One motion from place to place, as from a hand that is quick.
+    void drawSmoothly(const std::vector<Pixel>& places) { m_input.drag(places, 100); }
+
+    /// A ring that passes its start a little outside of it: a stroke that came back to the very
+    /// place of its press would begin anew.
     static std::vector<Pixel> circleRound(Pixel center, int radiusX, int radiusY) {
         std::vector<Pixel> places;
-        for (int degree = -100; degree <= 275; degree += 13) {
+        for (int degree = -100; degree <= 275; degree += 5) {
             const double angle = degree * std::numbers::pi / 180;
-            places.push_back({center.x + static_cast<int>(radiusX * std::cos(angle)),
-                              center.y + static_cast<int>(radiusY * std::sin(angle))});
+            const double growth = 1 + degree / 4000.0;
+            places.push_back({center.x + static_cast<int>(growth * radiusX * std::cos(angle)),
+                              center.y + static_cast<int>(growth * radiusY * std::sin(angle))});
         }
         return places;
     }
 
     static std::vector<Pixel> wave(Pixel start, int length) {
         std::vector<Pixel> places;
-        for (int x = 0; x <= length; x += 10) {
+        for (int x = 0; x <= length; x += 16) {
             places.push_back({start.x + x, start.y + static_cast<int>(24 * std::sin(x / 32.0))});
         }
         return places;
