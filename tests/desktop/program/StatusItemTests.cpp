@@ -1,5 +1,6 @@
 #include "desktop/program/ProgramTest.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace quillon::test {
@@ -15,6 +16,17 @@ protected:
             return found.has_value();
         });
         return found;
+    }
+
+    /// How much of the item is light.
+    int lightCount(Pixel item) {
+        int count = 0;
+        for (int y = 4; y < 26; ++y) {
+            for (int x = item.x - 4; x < item.x + 22; ++x) {
+                count += screen.pixel({std::max(x, 0), y}).red > 180 ? 1 : 0;
+            }
+        }
+        return count;
     }
 
     /// Clicks the item and waits for its menu, which hangs from the panel.
@@ -118,6 +130,18 @@ TEST_F(TrayItem, the_menu_opens_over_a_drawing_left_standing_and_switches_annota
     input.drag({{300, 300}, {500, 300}});
     EXPECT_TRUE(showsInk({400, 300}));
     EXPECT_TRUE(showsInk({400, 200}));
+}
+
+TEST_F(TrayItem, it_is_an_outline_and_filled_while_annotation_is_on) {
+    desktop.startTray();
+    start();
+    const auto item = findItem();
+    ASSERT_TRUE(item);
+    const int outline = lightCount(*item);
+    toggleAnnotation();
+    EXPECT_TRUE(eventually([&] { return lightCount(*item) > outline * 3 / 2; }));
+    toggleAnnotation();
+    EXPECT_TRUE(eventually([&] { return lightCount(*item) == outline; }));
 }
 
 TEST_F(TrayItem, it_appears_when_the_tray_comes_up_after_the_program) {
