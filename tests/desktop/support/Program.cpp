@@ -21,9 +21,11 @@ std::string Program::path() {
 }
 
 bool Program::isReady() const {
-    // The server refuses a grab that somebody else holds. Nobody sees this one come and go.
+    // Shortcuts are grabbed in the order of their actions, and the one that clears is the last to
+    // have a key by itself. The server refuses a grab that somebody else holds; nobody sees this
+    // one come and go.
     auto& connection = m_desktop.connection();
-    const xcb_keycode_t key = InputDriver(connection).keyCode("s");
+    const xcb_keycode_t key = InputDriver(connection).keyCode("c");
     const std::uint16_t modifiers = XCB_MOD_MASK_4 | XCB_MOD_MASK_SHIFT;
     xcb_grab_server(connection.get());
     const auto request = xcb_grab_key_checked(connection.get(), 0, connection.root(), modifiers,

@@ -7,8 +7,8 @@
 
 namespace quillon::test {
 
-/// The real program on a desktop. It is ready once its shortcut for annotation is live, which the
-/// store must have left at its default.
+/// The real program on a desktop. It is ready once its shortcuts are live, of which the store must
+/// have left the one that clears at its default.
 class Program {
 public:
     /// Starts it and waits until it is ready.
