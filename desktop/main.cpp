@@ -6,10 +6,12 @@
 #include "desktop/qt/QtScreens.h"
 #include "desktop/qt/QtStatusBar.h"
 #include "desktop/qt/QtWindows.h"
+#include "desktop/qt/QtWorkspace.h"
 #include "desktop/qt/UnixSignals.h"
 #include "desktop/qt/X11EventFilter.h"
 #include "desktop/storage/SqliteDefaults.h"
 #include "desktop/x11/SingleInstance.h"
+#include "desktop/x11/X11EventMonitors.h"
 #include "desktop/x11/X11HotKeys.h"
 #include "desktop/x11/XcbHandles.h"
 #include "platform/Host.h"
@@ -74,8 +76,10 @@ int run(QApplication& application, xcb_connection_t* connection) {
     QtStatusBar statusBar(events, connection, system);
     QtImages images;
     QtGraphics graphics;
-    Host host(
-        {mainQueue, userDefaults, system, windows, screens, hotKeys, statusBar, images, graphics});
+    X11EventMonitors eventMonitors;
+    QtWorkspace workspace;
+    Host host({mainQueue, userDefaults, system, windows, screens, hotKeys, statusBar, images,
+               graphics, eventMonitors, workspace});
     OrvalisCloneApp app;
 
     const auto instanceEvents = events.addHandler(

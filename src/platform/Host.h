@@ -3,6 +3,7 @@
 #include "foundation/NotificationCenter.h"
 #include "platform/Application.h"
 #include "platform/Bitmap.h"
+#include "platform/EventMonitors.h"
 #include "platform/HotKeys.h"
 #include "platform/Image.h"
 #include "platform/MainQueue.h"
@@ -10,7 +11,9 @@
 #include "platform/StatusBar.h"
 #include "platform/UserDefaults.h"
 #include "platform/Window.h"
+#include "platform/Workspace.h"
 
+#include <functional>
 #include <memory>
 #include <typeindex>
 #include <utility>
@@ -27,15 +30,17 @@ class Host {
 public:
     /// What a host is made of. Every port outlives the host.
     struct Ports {
-        MainQueue& mainQueue;
-        UserDefaults& userDefaults;
-        Application& application;
-        Windows& windows;
-        Screens& screens;
-        HotKeys& hotKeys;
-        StatusBar& statusBar;
-        Images& images;
-        Graphics& graphics;
+        std::reference_wrapper<MainQueue> mainQueue;
+        std::reference_wrapper<UserDefaults> userDefaults;
+        std::reference_wrapper<Application> application;
+        std::reference_wrapper<Windows> windows;
+        std::reference_wrapper<Screens> screens;
+        std::reference_wrapper<HotKeys> hotKeys;
+        std::reference_wrapper<StatusBar> statusBar;
+        std::reference_wrapper<Images> images;
+        std::reference_wrapper<Graphics> graphics;
+        std::reference_wrapper<EventMonitors> eventMonitors;
+        std::reference_wrapper<Workspace> workspace;
     };
 
     /// Installs itself; only one may stand at a time.
@@ -57,6 +62,8 @@ public:
     StatusBar& statusBar() const { return m_ports.statusBar; }
     Images& images() const { return m_ports.images; }
     Graphics& graphics() const { return m_ports.graphics; }
+    EventMonitors& eventMonitors() const { return m_ports.eventMonitors; }
+    Workspace& workspace() const { return m_ports.workspace; }
     /// The default notification centre.
     NotificationCenter& notificationCenter() { return m_notificationCenter; }
 

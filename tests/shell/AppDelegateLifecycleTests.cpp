@@ -117,14 +117,16 @@ TEST(AppDelegateOrder, start_up_and_shut_down_take_their_steps_in_order) {
     JournalQueue mainQueue(journal);
     JournalDefaults userDefaults(journal);
     JournalApplication application(journal);
-    FakeWindows windows;
-    FakeScreens screens;
     JournalHotKeys hotKeys(journal);
     JournalStatusBar statusBar(journal);
-    FakeImages images;
-    RecordingGraphics graphics;
-    const Host host({mainQueue, userDefaults, application, windows, screens, hotKeys, statusBar,
-                     images, graphics});
+    FakePorts fakes;
+    Host::Ports ports = fakes.ports();
+    ports.mainQueue = mainQueue;
+    ports.userDefaults = userDefaults;
+    ports.application = application;
+    ports.hotKeys = hotKeys;
+    ports.statusBar = statusBar;
+    const Host host(ports);
     AppDelegate delegate;
 
     delegate.applicationDidFinishLaunching();

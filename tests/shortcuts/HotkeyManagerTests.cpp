@@ -338,25 +338,12 @@ TEST_F(HotkeyManagerTest, registering_publishes_no_change_of_its_own) {
 }
 
 /// The ports of a host, and a host that a test can end before them.
-class HotkeyManagerLifetime : public testing::Test {
-protected:
-    HandTurnedQueue mainQueue;
-    FakeDefaults userDefaults;
-    FakeApplication application;
-    FakeWindows windows;
-    FakeScreens screens;
-    FakeHotKeys hotKeys;
-    FakeStatusBar statusBar;
-    FakeImages images;
-    RecordingGraphics graphics;
-    Host::Ports ports{mainQueue, userDefaults, application, windows, screens,
-                      hotKeys,   statusBar,    images,      graphics};
-};
+class HotkeyManagerLifetime : public testing::Test, protected FakePorts {};
 
 TEST_F(HotkeyManagerLifetime, a_press_that_outlives_the_manager_is_dropped) {
     int heard = 0;
     {
-        Host host(ports);
+        Host host(ports());
         const auto observation = host.notificationCenter().addObserver(
             NotificationName::toggleAnnotation, [&](const Notification&) { ++heard; });
         HotkeyManager::shared().registerHotkeys(sixBindings);
@@ -370,7 +357,7 @@ TEST_F(HotkeyManagerLifetime, a_press_that_outlives_the_manager_is_dropped) {
 
 TEST_F(HotkeyManagerLifetime, the_end_of_the_manager_gives_back_what_it_holds) {
     {
-        Host host(ports);
+        Host host(ports());
         HotkeyManager::shared().registerHotkeys(sixBindings);
         HotkeyManager::shared().startListening();
     }
@@ -380,10 +367,10 @@ TEST_F(HotkeyManagerLifetime, the_end_of_the_manager_gives_back_what_it_holds) {
 
 TEST_F(HotkeyManagerLifetime, a_fresh_host_counts_from_one_again) {
     {
-        Host host(ports);
+        Host host(ports());
         HotkeyManager::shared().registerHotkeys(sixBindings);
     }
-    Host host(ports);
+    Host host(ports());
     EXPECT_EQ(HotkeyManager::shared().hotkeyIDCounter(), 1U);
 }
 

@@ -66,18 +66,16 @@ public:
 
     const QImage& screen() const { return m_screen; }
 
-    struct QtFakeHost {
-        test::HandTurnedQueue mainQueue;
-        test::FakeDefaults userDefaults;
-        test::FakeApplication application;
-        test::FakeWindows windows;
-        test::FakeScreens screens;
-        test::FakeHotKeys hotKeys;
-        test::FakeStatusBar statusBar;
-        test::FakeImages images;
-        QtGraphics graphics;
-        Host host{{mainQueue, userDefaults, application, windows, screens, hotKeys, statusBar,
-                   images, graphics}};
+    struct QtFakeHost : test::FakePorts {
+        QtGraphics qtGraphics;
+        Host host{portsWithQtGraphics()};
+
+    private:
+        Host::Ports portsWithQtGraphics() {
+            Host::Ports chosen = ports();
+            chosen.graphics = qtGraphics;
+            return chosen;
+        }
     } host;
     OverlayContainerView overlay{AppSettings::shared()};
 

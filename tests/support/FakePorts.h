@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/Host.h"
+#include "support/FakeDefaults.h"
+#include "support/FakeEventMonitors.h"
+#include "support/FakeHotKeys.h"
+#include "support/FakeScreens.h"
+#include "support/FakeStatusBar.h"
+#include "support/FakeWindows.h"
+#include "support/FakeWorkspace.h"
+#include "support/HandTurnedQueue.h"
+#include "support/RecordingContext.h"
+
+namespace quillon::test {
+
+/// A fake for every port, for a host that has yet to be made. A test may put a port of its own in
+/// the place of one of them.
+struct FakePorts {
+    HandTurnedQueue mainQueue;
+    FakeDefaults userDefaults;
+    FakeApplication application;
+    FakeWindows windows;
+    FakeScreens screens;
+    FakeHotKeys hotKeys;
+    FakeStatusBar statusBar;
+    FakeImages images;
+    RecordingGraphics graphics;
+    FakeEventMonitors eventMonitors;
+    FakeWorkspace workspace;
+
+    Host::Ports ports() {
+        return {mainQueue, userDefaults, application, windows,       screens,  hotKeys,
+                statusBar, images,       graphics,    eventMonitors, workspace};
+    }
+};
+
+} // namespace quillon::test
