@@ -1,10 +1,13 @@
 #pragma once
 
+// This header speaks for its folder: the labels of bindings and the recorder come with it.
 #include "foundation/Published.h"
 #include "model/HotkeyAction.h"
 #include "model/HotkeyConfig.h"
 #include "platform/Host.h"
 #include "shortcuts/HotkeyIDCounter.h"
+#include "shortcuts/HotkeyShortcutFormatter.h"
+#include "shortcuts/ShortcutRecorderView.h"
 
 #include <cstdint>
 #include <map>
