@@ -13,6 +13,7 @@
 #include "desktop/x11/SingleInstance.h"
 #include "desktop/x11/X11EventMonitors.h"
 #include "desktop/x11/X11HotKeys.h"
+#include "desktop/x11/X11ScreenCapture.h"
 #include "desktop/x11/XcbHandles.h"
 #include "platform/Host.h"
 #include "shell/OrvalisCloneApp.h"
@@ -78,8 +79,9 @@ int run(QApplication& application, xcb_connection_t* connection) {
     QtGraphics graphics;
     X11EventMonitors eventMonitors;
     QtWorkspace workspace;
+    X11ScreenCapture screenCapture(mainQueue);
     Host host({mainQueue, userDefaults, system, windows, screens, hotKeys, statusBar, images,
-               graphics, eventMonitors, workspace});
+               graphics, eventMonitors, workspace, screenCapture});
     OrvalisCloneApp app;
 
     const auto instanceEvents = events.addHandler(

@@ -3,6 +3,7 @@
 #include "desktop/qt/QtBitmap.h"
 #include "desktop/qt/QtConversions.h"
 #include "desktop/qt/QtLayer.h"
+#include "platform/CGImage.h"
 
 #include <QFontMetricsF>
 
@@ -61,6 +62,15 @@ void QtGraphicsContext::draw(const Bitmap& bitmap, const CGRect& rect) {
     const QImage& image = static_cast<const QtBitmap&>(bitmap).image();
     const QRect pixels = devicePixels(rect, m_scale).intersected(image.rect());
     drawPixels(image, pixels, pixels.topLeft());
+}
+
+void QtGraphicsContext::draw(const CGImage& image, const CGRect& rect) {
+    const PixelRows& rows = *image.rows;
+    const QImage pixels(reinterpret_cast<const uchar*>(rows.pixels.data()), rows.width, rows.height,
+                        QImage::Format_RGB32);
+    m_painter.setRenderHint(QPainter::Antialiasing, false);
+    m_painter.drawImage(toQRectF(rect), pixels, toQRectF(image.part));
+    m_painter.setRenderHint(QPainter::Antialiasing);
 }
 
 void QtGraphicsContext::drawPixels(const QImage& image, const QRect& from, QPoint to) {

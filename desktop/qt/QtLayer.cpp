@@ -2,6 +2,7 @@
 
 #include "desktop/qt/QtConversions.h"
 #include "desktop/qt/QtGraphicsContext.h"
+#include "platform/CGImage.h"
 
 #include <utility>
 
@@ -63,6 +64,10 @@ void QtLayer::clear(const CGRect& rect) {
 
 void QtLayer::draw(const Bitmap& bitmap, const CGRect& rect) {
     ownContext().draw(bitmap, rect);
+}
+
+void QtLayer::draw(const CGImage& image, const CGRect& rect) {
+    perform([image, rect](GraphicsContext& context) { context.draw(image, rect); });
 }
 
 GraphicsContext& QtLayer::beginLayer() {

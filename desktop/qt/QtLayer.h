@@ -35,6 +35,7 @@ public:
     void drawText(const Text& text, CGPoint at, Anchor anchor) override;
     void clear(const CGRect& rect) override;
     void draw(const Bitmap& bitmap, const CGRect& rect) override;
+    void draw(const CGImage& image, const CGRect& rect) override;
 
 protected:
     GraphicsContext& beginLayer() override;

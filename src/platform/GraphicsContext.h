@@ -9,6 +9,7 @@
 namespace quillon {
 
 class Bitmap;
+struct CGImage;
 
 enum class BlendMode { normal, plusLighter };
 enum class LineCap { butt, round };
@@ -58,6 +59,9 @@ public:
     virtual void clear(const CGRect& rect) = 0;
     /// Draws the part of a bitmap that lies in `rect` where it stands, pixel for pixel.
     virtual void draw(const Bitmap& bitmap, const CGRect& rect) = 0;
+    /// Draws the picture stretched over `rect` with hard pixels: nothing is interpolated and no
+    /// edge is softened.
+    virtual void draw(const CGImage& image, const CGRect& rect) = 0;
 
     /// Calls `body` with the context of a fresh transparent layer, and draws what became of that
     /// layer with the blend mode and the opacity of this context.

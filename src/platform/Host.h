@@ -7,6 +7,7 @@
 #include "platform/HotKeys.h"
 #include "platform/Image.h"
 #include "platform/MainQueue.h"
+#include "platform/ScreenCapture.h"
 #include "platform/Screens.h"
 #include "platform/StatusBar.h"
 #include "platform/UserDefaults.h"
@@ -41,6 +42,7 @@ public:
         std::reference_wrapper<Graphics> graphics;
         std::reference_wrapper<EventMonitors> eventMonitors;
         std::reference_wrapper<Workspace> workspace;
+        std::reference_wrapper<ScreenCapture> screenCapture;
     };
 
     /// Installs itself; only one may stand at a time.
@@ -64,6 +66,7 @@ public:
     Graphics& graphics() const { return m_ports.graphics; }
     EventMonitors& eventMonitors() const { return m_ports.eventMonitors; }
     Workspace& workspace() const { return m_ports.workspace; }
+    ScreenCapture& screenCapture() const { return m_ports.screenCapture; }
     /// The default notification centre.
     NotificationCenter& notificationCenter() { return m_notificationCenter; }
 

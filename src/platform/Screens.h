@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/Geometry.h"
+#include "platform/DeviceDescription.h"
 
 #include <optional>
 #include <string>
@@ -17,6 +18,9 @@ struct NSScreen {
     /// Device pixels to a point.
     CGFloat backingScaleFactor = 1;
     std::string localizedName;
+    /// "NSScreenNumber" is the number of its display for screen capture; missing when the host
+    /// cannot tell.
+    DeviceDescription deviceDescription{};
 
     friend bool operator==(const NSScreen&, const NSScreen&) = default;
 };

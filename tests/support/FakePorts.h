@@ -4,6 +4,7 @@
 #include "support/FakeDefaults.h"
 #include "support/FakeEventMonitors.h"
 #include "support/FakeHotKeys.h"
+#include "support/FakeScreenCapture.h"
 #include "support/FakeScreens.h"
 #include "support/FakeStatusBar.h"
 #include "support/FakeWindows.h"
@@ -27,10 +28,11 @@ struct FakePorts {
     RecordingGraphics graphics;
     FakeEventMonitors eventMonitors;
     FakeWorkspace workspace;
+    FakeScreenCapture screenCapture;
 
     Host::Ports ports() {
-        return {mainQueue, userDefaults, application, windows,       screens,  hotKeys,
-                statusBar, images,       graphics,    eventMonitors, workspace};
+        return {mainQueue, userDefaults, application, windows,       screens,   hotKeys,
+                statusBar, images,       graphics,    eventMonitors, workspace, screenCapture};
     }
 };
 

@@ -14,7 +14,11 @@ public:
         return all.empty() ? std::nullopt : std::optional(all.front());
     }
 
-    std::vector<NSScreen> all{{{0, 0, 1920, 1080}, {0, 0, 1920, 1050}, 1, "Screen"}};
+    std::vector<NSScreen> all{{{0, 0, 1920, 1080},
+                               {0, 0, 1920, 1050},
+                               1,
+                               "Screen",
+                               {{"NSScreenNumber", std::int64_t{1}}}}};
 };
 
 } // namespace quillon::test

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Bitmap.h"
+#include "platform/CGImage.h"
 #include "platform/GraphicsContext.h"
 
 #include <memory>
@@ -11,7 +12,7 @@ namespace quillon::test {
 
 /// One thing that was drawn, with the state in force.
 struct Drawing {
-    enum class Kind { fill, stroke, text, clear, bitmap };
+    enum class Kind { fill, stroke, text, clear, bitmap, image };
 
     Kind kind;
     Path path;
@@ -21,6 +22,7 @@ struct Drawing {
     CGPoint at;
     Anchor anchor = Anchor::topLeading;
     CGRect rect;
+    CGImage image;
     BlendMode blendMode = BlendMode::normal;
     double opacity = 1;
     /// How many layers deep it was drawn, and the blend mode with which the innermost of them is
@@ -56,6 +58,11 @@ public:
     void clear(const CGRect& rect) override { record(Drawing::Kind::clear).rect = rect; }
     void draw(const Bitmap&, const CGRect& rect) override {
         record(Drawing::Kind::bitmap).rect = rect;
+    }
+    void draw(const CGImage& image, const CGRect& rect) override {
+        auto& drawing = record(Drawing::Kind::image);
+        drawing.image = image;
+        drawing.rect = rect;
     }
 
     CGRect clip{-1e6, -1e6, 2e6, 2e6};
