@@ -29,7 +29,12 @@ OverlayContainerView::OverlayContainerView(AppSettings& appSettings)
     , m_liveLayer(Host::current().graphics())
     , m_whiteboard(kWhiteboardFade,
                    appSettings.isAnnotationEnabled && appSettings.isWhiteboardMode) {
-    m_subscriptions.push_back(m_appSettings.objectWillChange.sink([this] { setNeedsUpdate(); }));
+    m_subscriptions.push_back(m_appSettings.objectWillChange.sink([this] {
+        setNeedsUpdate();
+        if (m_toolbar) {
+            m_toolbar->needsUpdate.send();
+        }
+    }));
     m_subscriptions.push_back(m_drawingState.objectWillChange.sink([this] { setNeedsUpdate(); }));
     observeNotifications();
 }
@@ -136,11 +141,7 @@ void OverlayContainerView::bringStackUpToDate() {
     }
     m_whiteboard.setVisible(hasUpperCanvas, Host::current().mainQueue().now());
 
-    const bool showsToolbar = isAnnotating && m_appSettings.showFloatingToolbar;
-    if (showsToolbar && !m_isToolbarVisible) {
-        placeToolbar();
-    }
-    m_isToolbarVisible = showsToolbar;
+    bringToolbarUpToDate();
     bringCanvasesUpToDate();
 }
 
@@ -187,7 +188,31 @@ std::optional<TextField> OverlayContainerView::textField() {
     return m_lowerCanvas.textField();
 }
 
-// The toolbar's place.
+// The toolbar and its place.
+
+std::optional<PlacedControls> OverlayContainerView::placedControls() {
+    return m_toolbar ? std::optional(PlacedControls{m_toolbar, m_toolbarPosition}) : std::nullopt;
+}
+
+void OverlayContainerView::bringToolbarUpToDate() {
+    if (!m_appSettings.isAnnotationEnabled || !m_appSettings.showFloatingToolbar) {
+        m_toolbar.reset();
+    } else if (m_toolbar) {
+        m_toolbar->setHistory(m_drawingState.canUndo(), m_drawingState.canRedo());
+    } else {
+        m_toolbar = makeToolbar();
+        placeToolbar();
+    }
+}
+
+std::shared_ptr<FloatingToolbarView> OverlayContainerView::makeToolbar() {
+    return std::make_shared<FloatingToolbarView>(
+        m_appSettings.selectedTool.binding(), m_appSettings.selectedColor.binding(),
+        m_appSettings.lineWidth.binding(), m_appSettings.quickColors.binding(),
+        m_appSettings.isWhiteboardMode.binding(), [this] { clearAllAnnotations(); },
+        [this] { m_drawingState.undo(); }, [this] { m_drawingState.redo(); },
+        m_drawingState.canUndo(), m_drawingState.canRedo());
+}
 
 void OverlayContainerView::placeToolbar() {
     const ToolbarPosition saved = m_appSettings.toolbarPosition;
@@ -197,19 +222,19 @@ void OverlayContainerView::placeToolbar() {
     }
 }
 
-void OverlayContainerView::toolbarMouseDown(CGPoint location) {
+void OverlayContainerView::controlsMouseDown(CGPoint location) {
     if (const auto drag = m_toolbarGesture.pressed(location)) {
         toolbarDragChanged(*drag);
     }
 }
 
-void OverlayContainerView::toolbarMouseDragged(CGPoint location) {
+void OverlayContainerView::controlsMouseDragged(CGPoint location) {
     if (const auto drag = m_toolbarGesture.moved(location)) {
         toolbarDragChanged(*drag);
     }
 }
 
-void OverlayContainerView::toolbarMouseUp(CGPoint location) {
+void OverlayContainerView::controlsMouseUp(CGPoint location) {
     if (m_toolbarGesture.released(location)) {
         m_isDraggingToolbar = false;
         m_appSettings.toolbarPosition = ToolbarPosition{m_toolbarPosition.x, m_toolbarPosition.y};

@@ -10,6 +10,7 @@
 #include "foundation/Lifetime.h"
 #include "model/AppSettings.h"
 #include "platform/ContentView.h"
+#include "toolbar/FloatingToolbarView.h"
 
 #include <memory>
 #include <optional>
@@ -39,15 +40,11 @@ public:
     DrawingCanvasView* upperCanvas() { return m_upperCanvas.get(); }
     int textEditorResetID() const { return m_textEditorResetID; }
 
-    bool isToolbarVisible() const { return m_isToolbarVisible; }
+    /// The floating toolbar, while it is shown.
+    const std::shared_ptr<FloatingToolbarView>& toolbar() const { return m_toolbar; }
     /// The toolbar's centre, in view coordinates. Nothing keeps it inside the view.
     CGPoint toolbarPosition() const { return m_toolbarPosition; }
     bool isDraggingToolbar() const { return m_isDraggingToolbar; }
-    /// A drag of the toolbar by its body, in view coordinates. Its centre jumps to the pointer.
-    void toolbarMouseDown(CGPoint location);
-    void toolbarMouseDragged(CGPoint location);
-    void toolbarMouseUp(CGPoint location);
-
     void clearAllAnnotations();
 
     void layout(CGSize size, CGFloat scale) override;
@@ -57,6 +54,11 @@ public:
     Damage takeDamage() override;
     void paint(GraphicsContext& context, const CGRect& rect) override;
     std::optional<TextField> textField() override;
+    std::optional<PlacedControls> placedControls() override;
+    /// A drag of the toolbar by its body. Its centre jumps to the pointer.
+    void controlsMouseDown(CGPoint location) override;
+    void controlsMouseDragged(CGPoint location) override;
+    void controlsMouseUp(CGPoint location) override;
 
 private:
     /// A stroke that auto-erase has removed and that is still to be seen for a moment.
@@ -73,6 +75,8 @@ private:
     void bringCanvasesUpToDate();
     /// Lets the views come and go as the settings say.
     void bringStackUpToDate();
+    void bringToolbarUpToDate();
+    std::shared_ptr<FloatingToolbarView> makeToolbar();
     void placeToolbar();
     void toolbarDragChanged(const DragValue& drag);
 
@@ -90,7 +94,7 @@ private:
     int m_textEditorResetID = 0;
 
     CGSize m_size;
-    bool m_isToolbarVisible = false;
+    std::shared_ptr<FloatingToolbarView> m_toolbar;
     DragGesture m_toolbarGesture;
     DrawingCanvasView m_lowerCanvas;
     std::unique_ptr<DrawingCanvasView> m_upperCanvas;

@@ -39,6 +39,18 @@ public:
     /// The four components in the colour's own space.
     Components getRedGreenBlueAlpha() const { return m_components; }
 
+    /// Hue, saturation and brightness of the HSB (HSV) model, each from 0 to 1, of the components
+    /// in the colour's own space, and alpha. A grey has hue 0, black has saturation 0 as well.
+    struct HSBA {
+        double hue = 0;
+        double saturation = 0;
+        double brightness = 0;
+        double alpha = 1;
+
+        friend bool operator==(const HSBA&, const HSBA&) = default;
+    };
+    HSBA getHueSaturationBrightnessAlpha() const;
+
     /// The same colour in `space`, or nothing when no conversion is known.
     /// The transfer function is that of IEC 61966-2-1, mirrored for negative components.
     std::optional<NSColor> colorUsingColorSpace(ColorSpace space) const;
@@ -58,6 +70,10 @@ public:
         : m_platformColor(colorSpace, {r, g, b, a}) {}
     constexpr Color(double r, double g, double b, double a = 1)
         : Color(ColorSpace::sRGB, r, g, b, a) {}
+
+    /// The sRGB colour of these coordinates in the HSB (HSV) model, each from 0 to 1; a hue of 1 is
+    /// that of 0.
+    static Color fromHSB(double hue, double saturation, double brightness, double opacity = 1);
 
     const NSColor& nsColor() const { return m_platformColor; }
 

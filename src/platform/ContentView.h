@@ -3,6 +3,7 @@
 #include "foundation/Binding.h"
 #include "foundation/Color.h"
 #include "foundation/Geometry.h"
+#include "platform/ControlView.h"
 #include "platform/Damage.h"
 #include "platform/GraphicsContext.h"
 
@@ -63,6 +64,13 @@ public:
     virtual void paint(GraphicsContext& context, const CGRect& rect) = 0;
 
     virtual std::optional<TextField> textField() { return std::nullopt; }
+
+    /// A view of controls that stands on this one, and takes the pointer where it stands.
+    virtual std::optional<PlacedControls> placedControls() { return std::nullopt; }
+    /// A press, moves and a release on that view, beside its controls. In this view's coordinates.
+    virtual void controlsMouseDown(CGPoint /*location*/) {}
+    virtual void controlsMouseDragged(CGPoint /*location*/) {}
+    virtual void controlsMouseUp(CGPoint /*location*/) {}
 
 protected:
     void setNeedsUpdate() const {

@@ -294,7 +294,7 @@ class ToolbarPlace : public Overlay {};
 
 TEST_F(ToolbarPlace, a_toolbar_never_placed_stands_150_from_the_right_and_50_from_the_top) {
     annotate();
-    EXPECT_TRUE(overlay.isToolbarVisible());
+    EXPECT_TRUE(overlay.toolbar() != nullptr);
     EXPECT_EQ(overlay.toolbarPosition(), (CGPoint{850, 50}));
     EXPECT_EQ(settings().toolbarPosition.get(), ToolbarPosition::defaultPosition);
 }
@@ -306,11 +306,11 @@ TEST_F(ToolbarPlace, a_saved_place_is_used_as_it_stands_also_off_the_screen) {
 }
 
 TEST_F(ToolbarPlace, it_is_hidden_with_annotation_or_by_the_setting_and_placed_anew_each_time) {
-    EXPECT_FALSE(overlay.isToolbarVisible());
+    EXPECT_FALSE(overlay.toolbar() != nullptr);
     annotate();
     settings().showFloatingToolbar = false;
     update();
-    EXPECT_FALSE(overlay.isToolbarVisible());
+    EXPECT_FALSE(overlay.toolbar() != nullptr);
     settings().toolbarPosition = ToolbarPosition{300, 200};
     settings().showFloatingToolbar = true;
     update();
@@ -319,25 +319,25 @@ TEST_F(ToolbarPlace, it_is_hidden_with_annotation_or_by_the_setting_and_placed_a
 
 TEST_F(ToolbarPlace, a_drag_begins_after_10_points_and_brings_the_centre_to_the_pointer) {
     annotate();
-    overlay.toolbarMouseDown({840, 40});
-    overlay.toolbarMouseDragged({846, 47});
+    overlay.controlsMouseDown({840, 40});
+    overlay.controlsMouseDragged({846, 47});
     EXPECT_FALSE(overlay.isDraggingToolbar());
     EXPECT_EQ(overlay.toolbarPosition(), (CGPoint{850, 50}));
-    overlay.toolbarMouseDragged({846, 48});
+    overlay.controlsMouseDragged({846, 48});
     EXPECT_TRUE(overlay.isDraggingToolbar());
     EXPECT_EQ(overlay.toolbarPosition(), (CGPoint{846, 48}));
-    overlay.toolbarMouseDragged({841, 41});
+    overlay.controlsMouseDragged({841, 41});
     EXPECT_EQ(overlay.toolbarPosition(), (CGPoint{841, 41}));
 }
 
 TEST_F(ToolbarPlace, the_place_is_written_once_at_the_end_of_the_drag) {
     annotate();
     host.userDefaults.writes.clear();
-    overlay.toolbarMouseDown({840, 40});
-    overlay.toolbarMouseDragged({500, 300});
-    overlay.toolbarMouseDragged({510, 310});
+    overlay.controlsMouseDown({840, 40});
+    overlay.controlsMouseDragged({500, 300});
+    overlay.controlsMouseDragged({510, 310});
     EXPECT_TRUE(host.userDefaults.writes.empty());
-    overlay.toolbarMouseUp({510, 310});
+    overlay.controlsMouseUp({510, 310});
     EXPECT_FALSE(overlay.isDraggingToolbar());
     EXPECT_EQ(host.userDefaults.writes, (std::vector<std::string>{"toolbarPosition"}));
     EXPECT_EQ(settings().toolbarPosition.get(), (ToolbarPosition{510, 310}));
@@ -346,16 +346,16 @@ TEST_F(ToolbarPlace, the_place_is_written_once_at_the_end_of_the_drag) {
 TEST_F(ToolbarPlace, a_click_on_it_writes_nothing) {
     annotate();
     host.userDefaults.writes.clear();
-    overlay.toolbarMouseDown({840, 40});
-    overlay.toolbarMouseUp({842, 41});
+    overlay.controlsMouseDown({840, 40});
+    overlay.controlsMouseUp({842, 41});
     EXPECT_TRUE(host.userDefaults.writes.empty());
 }
 
 TEST_F(ToolbarPlace, dragged_to_the_very_corner_it_counts_as_never_placed) {
     annotate();
-    overlay.toolbarMouseDown({840, 40});
-    overlay.toolbarMouseDragged({0, 0});
-    overlay.toolbarMouseUp({0, 0});
+    overlay.controlsMouseDown({840, 40});
+    overlay.controlsMouseDragged({0, 0});
+    overlay.controlsMouseUp({0, 0});
     EXPECT_EQ(overlay.toolbarPosition(), (CGPoint{0, 0}));
     settings().isAnnotationEnabled = false;
     update();

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include <vector>
 
 namespace quillon::test {
@@ -87,6 +89,40 @@ TEST(Color, the_palette_has_fourteen_different_colours_in_order) {
             EXPECT_NE(palette[first], palette[second]) << first << ' ' << second;
         }
     }
+}
+
+TEST(Color, hue_runs_from_red_over_green_and_blue_back_to_red) {
+    const auto isNear = [](const Color& color, double red, double green, double blue) {
+        const auto seen = color.resolved();
+        return std::abs(seen.red - red) < 1e-12 && std::abs(seen.green - green) < 1e-12 &&
+               std::abs(seen.blue - blue) < 1e-12;
+    };
+    EXPECT_TRUE(isNear(Color::fromHSB(0, 1, 1), 1, 0, 0));
+    EXPECT_TRUE(isNear(Color::fromHSB(1.0 / 6, 1, 1), 1, 1, 0));
+    EXPECT_TRUE(isNear(Color::fromHSB(2.0 / 6, 1, 1), 0, 1, 0));
+    EXPECT_TRUE(isNear(Color::fromHSB(3.0 / 6, 1, 1), 0, 1, 1));
+    EXPECT_TRUE(isNear(Color::fromHSB(4.0 / 6, 1, 1), 0, 0, 1));
+    EXPECT_TRUE(isNear(Color::fromHSB(5.0 / 6, 1, 1), 1, 0, 1));
+    EXPECT_TRUE(isNear(Color::fromHSB(1, 1, 1), 1, 0, 0));
+    EXPECT_TRUE(isNear(Color::fromHSB(0.7, 0, 0.4), 0.4, 0.4, 0.4));
+}
+
+TEST(Color, a_colour_made_of_hue_saturation_and_brightness_gives_them_back) {
+    for (double hue = 0; hue < 1; hue += 0.05) {
+        const Color color = Color::fromHSB(hue, 0.6, 0.7, 0.3);
+        const auto read = color.nsColor().getHueSaturationBrightnessAlpha();
+        EXPECT_NEAR(read.hue, hue, 1e-9);
+        EXPECT_NEAR(read.saturation, 0.6, 1e-9);
+        EXPECT_NEAR(read.brightness, 0.7, 1e-9);
+        EXPECT_EQ(read.alpha, 0.3);
+    }
+}
+
+TEST(Color, a_grey_has_no_hue_and_black_no_saturation) {
+    EXPECT_EQ(Color(0.5, 0.5, 0.5).nsColor().getHueSaturationBrightnessAlpha(),
+              (NSColor::HSBA{0, 0, 0.5, 1}));
+    EXPECT_EQ(Color::black.nsColor().getHueSaturationBrightnessAlpha(),
+              (NSColor::HSBA{0, 0, 0, 1}));
 }
 
 } // namespace quillon::test
