@@ -17,6 +17,7 @@ QColor toQColor(const Color& color) {
 
 QPainterPath toQPainterPath(const Path& path) {
     QPainterPath result;
+    result.setFillRule(Qt::WindingFill);
     result.reserve(static_cast<int>(path.points().size()));
     auto point = path.points().begin();
     for (const auto verb : path.verbs()) {

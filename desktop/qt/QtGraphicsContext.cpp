@@ -32,6 +32,12 @@ void QtGraphicsContext::fill(const Path& path, const Color& color) {
     m_painter.fillPath(toQPainterPath(path), toQColor(color));
 }
 
+void QtGraphicsContext::fillEvenOdd(const Path& path, const Color& color) {
+    QPainterPath outlines = toQPainterPath(path);
+    outlines.setFillRule(Qt::OddEvenFill);
+    m_painter.fillPath(outlines, toQColor(color));
+}
+
 void QtGraphicsContext::stroke(const Path& path, const Color& color, const StrokeStyle& style) {
     m_painter.strokePath(toQPainterPath(path), toQPen(color, style));
 }

@@ -50,6 +50,10 @@ void QtLayer::fill(const Path& path, const Color& color) {
     perform([path, color](GraphicsContext& context) { context.fill(path, color); });
 }
 
+void QtLayer::fillEvenOdd(const Path& path, const Color& color) {
+    perform([path, color](GraphicsContext& context) { context.fillEvenOdd(path, color); });
+}
+
 void QtLayer::stroke(const Path& path, const Color& color, const StrokeStyle& style) {
     perform([path, color, style](GraphicsContext& context) { context.stroke(path, color, style); });
 }

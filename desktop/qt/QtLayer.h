@@ -31,6 +31,7 @@ public:
     void setBlendMode(BlendMode mode) override;
     void setOpacity(double opacity) override;
     void fill(const Path& path, const Color& color) override;
+    void fillEvenOdd(const Path& path, const Color& color) override;
     void stroke(const Path& path, const Color& color, const StrokeStyle& style) override;
     void drawText(const Text& text, CGPoint at, Anchor anchor) override;
     void clear(const CGRect& rect) override;

@@ -52,6 +52,8 @@ public:
     virtual void setOpacity(double opacity) = 0;
 
     virtual void fill(const Path& path, const Color& color) = 0;
+    /// Fills what an odd number of the path's outlines goes round: a hole in a rectangle.
+    virtual void fillEvenOdd(const Path& path, const Color& color) = 0;
     virtual void stroke(const Path& path, const Color& color, const StrokeStyle& style) = 0;
     virtual void drawText(const Text& text, CGPoint at, Anchor anchor) = 0;
 

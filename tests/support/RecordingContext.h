@@ -12,7 +12,7 @@ namespace quillon::test {
 
 /// One thing that was drawn, with the state in force.
 struct Drawing {
-    enum class Kind { fill, stroke, text, clear, bitmap, image };
+    enum class Kind { fill, fillEvenOdd, stroke, text, clear, bitmap, image };
 
     Kind kind;
     Path path;
@@ -40,6 +40,11 @@ public:
 
     void fill(const Path& path, const Color& color) override {
         auto& drawing = record(Drawing::Kind::fill);
+        drawing.path = path;
+        drawing.color = color;
+    }
+    void fillEvenOdd(const Path& path, const Color& color) override {
+        auto& drawing = record(Drawing::Kind::fillEvenOdd);
         drawing.path = path;
         drawing.color = color;
     }
