@@ -1,0 +1,94 @@
+#include "spotlight/SpotlightManager.h"
+
+#include "model/AppSettings.h"
+#include "platform/Host.h"
+#include "spotlight/SpotlightView.h"
+
+namespace quillon {
+
+SpotlightManager& SpotlightManager::shared() {
+    return Host::current().shared<SpotlightManager>(
+        [] { return std::shared_ptr<SpotlightManager>(new SpotlightManager()); });
+}
+
+SpotlightManager::SpotlightManager() {
+    setupSettingsObserver();
+}
+
+void SpotlightManager::setupSettingsObserver() {
+    auto& settings = AppSettings::shared();
+    m_settingsObservers.push_back(settings.spotlightIntensity.sink(
+        [this](double intensity) { spotlightIntensity = intensity; }));
+    m_settingsObservers.push_back(
+        settings.spotlightRadius.sink([this](CGFloat radius) { spotlightRadius = radius; }));
+}
+
+void SpotlightManager::toggleSpotlight() {
+    isSpotlightEnabled = !isSpotlightEnabled;
+}
+
+void SpotlightManager::startSpotlight() {
+    if (!m_spotlightWindow) {
+        CGRect everyScreen = CGRect::zero;
+        for (const auto& screen : Host::current().screens().screens()) {
+            everyScreen = everyScreen.unite(screen.frame);
+        }
+        m_spotlightWindow = std::make_unique<SpotlightWindow>(everyScreen);
+    }
+    updateSpotlightAppearance();
+    m_spotlightWindow->orderFrontRegardless();
+    startCursorTracking();
+}
+
+void SpotlightManager::stopSpotlight() {
+    if (m_spotlightWindow) {
+        m_spotlightWindow->orderOut();
+    }
+    stopCursorTrackingIfNeeded();
+}
+
+void SpotlightManager::updateSpotlightAppearance() {
+    if (!m_spotlightWindow || !m_spotlightWindow->contentView()) {
+        return;
+    }
+    auto* view = dynamic_cast<SpotlightView*>(m_spotlightWindow->contentView()->rootView.get());
+    if (!view) {
+        return;
+    }
+    const CGRect& frame = m_spotlightWindow->frame();
+    view->setValue(
+        {{m_currentCursorLocation.x - frame.minX(), frame.maxY() - m_currentCursorLocation.y},
+         spotlightRadius,
+         spotlightIntensity});
+}
+
+void SpotlightManager::startCursorTracking() {
+    if (m_eventMonitor) {
+        return;
+    }
+    auto& monitors = Host::current().eventMonitors();
+    m_eventMonitor = monitors.addGlobalMonitorForEventsMatchingMask(
+        NSEventMask::mouseMoved, m_lifetime.guard([this](const NSEvent&) {
+            updateCursorLocation(Host::current().eventMonitors().mouseLocation());
+        }));
+    updateCursorLocation(monitors.mouseLocation());
+}
+
+void SpotlightManager::stopCursorTrackingIfNeeded() {
+    if (isSpotlightEnabled || !m_eventMonitor) {
+        return;
+    }
+    Host::current().eventMonitors().removeMonitor(*m_eventMonitor);
+    m_eventMonitor.reset();
+}
+
+void SpotlightManager::updateCursorLocation(CGPoint location) {
+    m_currentCursorLocation = location;
+    Host::current().mainQueue().async(m_lifetime.guard([this] {
+        if (isSpotlightEnabled) {
+            updateSpotlightAppearance();
+        }
+    }));
+}
+
+} // namespace quillon

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "platform/Window.h"
+
+namespace quillon {
+
+/// The window that dims the desktop: borderless, transparent, on every desktop, and let through by
+/// every click.
+class SpotlightWindow : public Window {
+public:
+    /// `frame` in global coordinates. The circle stands where the pointer is.
+    explicit SpotlightWindow(const CGRect& frame);
+};
+
+} // namespace quillon
