@@ -6,6 +6,7 @@
 #include "platform/Host.h"
 #include "shell/StatusMenu.h"
 #include "shortcuts/HotkeyManager.h"
+#include "spotlight/SpotlightManager.h"
 
 #include <optional>
 #include <span>
@@ -72,6 +73,7 @@ void AppDelegate::applicationDidFinishLaunching() {
     observeAnnotationSettings();
     setupHotkeys();
     observeHotkeySettings();
+    SpotlightManager::shared();
     sweepWindows();
 }
 
@@ -220,7 +222,11 @@ void AppDelegate::toggleWhiteboard() {
 
 void AppDelegate::toggleCursorHalo() {}
 
-void AppDelegate::toggleSpotlight() {}
+void AppDelegate::toggleSpotlight() {
+    auto& manager = SpotlightManager::shared();
+    manager.toggleSpotlight();
+    AppSettings::shared().isSpotlightEnabled = manager.isSpotlightEnabled;
+}
 
 void AppDelegate::toggleZoom() {}
 

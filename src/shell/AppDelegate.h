@@ -25,7 +25,8 @@ namespace quillon {
 ///    later;
 /// 5. the shortcuts are registered, then heard, then observed;
 /// 6. a change of the bindings is observed;
-/// 7. windows that nobody is to see are swept off the screen.
+/// 7. the managers of the other features come into being, switched off;
+/// 8. windows that nobody is to see are swept off the screen.
 ///
 /// The overlay window is made when it is first needed. Work that follows a notification or a
 /// setting runs in a later turn of the main queue.

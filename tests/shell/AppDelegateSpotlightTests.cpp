@@ -1,0 +1,55 @@
+#include "model/NotificationNames.h"
+#include "shell/ShellTest.h"
+#include "spotlight/SpotlightManager.h"
+
+namespace quillon::test {
+
+namespace {
+
+using AppDelegateSpotlightTest = ShellTest;
+
+} // namespace
+
+TEST_F(AppDelegateSpotlightTest, a_launch_leaves_the_spotlight_off_whatever_is_stored) {
+    settings().isSpotlightEnabled = true;
+    launch();
+    EXPECT_FALSE(SpotlightManager::shared().isSpotlightEnabled);
+    EXPECT_TRUE(settings().isSpotlightEnabled);
+    EXPECT_TRUE(host.windows.calls.empty());
+}
+
+TEST_F(AppDelegateSpotlightTest, the_manager_is_there_from_the_launch_on) {
+    launch();
+    int changes = 0;
+    const auto observer = SpotlightManager::shared().objectWillChange.sink([&] { ++changes; });
+    settings().spotlightRadius = 99;
+    EXPECT_EQ(changes, 1);
+}
+
+TEST_F(AppDelegateSpotlightTest, the_shortcut_switches_the_manager_and_stores_what_it_reports) {
+    // The stored switch and the manager's start out apart; the manager leads.
+    settings().isSpotlightEnabled = true;
+    launch();
+    post(NotificationName::toggleSpotlight);
+    EXPECT_TRUE(SpotlightManager::shared().isSpotlightEnabled);
+    EXPECT_TRUE(settings().isSpotlightEnabled);
+    post(NotificationName::toggleSpotlight);
+    EXPECT_FALSE(SpotlightManager::shared().isSpotlightEnabled);
+    EXPECT_FALSE(settings().isSpotlightEnabled);
+}
+
+TEST_F(AppDelegateSpotlightTest, the_menu_switches_it_at_once) {
+    launch();
+    EXPECT_TRUE(delegate->perform("toggleSpotlight"));
+    EXPECT_TRUE(SpotlightManager::shared().isSpotlightEnabled);
+    EXPECT_TRUE(settings().isSpotlightEnabled);
+}
+
+TEST_F(AppDelegateSpotlightTest, the_end_leaves_the_spotlight_as_it_is) {
+    launch();
+    delegate->toggleSpotlight();
+    delegate->applicationWillTerminate();
+    EXPECT_TRUE(SpotlightManager::shared().isSpotlightEnabled);
+}
+
+} // namespace quillon::test
