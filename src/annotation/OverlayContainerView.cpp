@@ -35,7 +35,10 @@ OverlayContainerView::OverlayContainerView(AppSettings& appSettings)
             m_toolbar->needsUpdate.send();
         }
     }));
-    m_subscriptions.push_back(m_drawingState.objectWillChange.sink([this] { setNeedsUpdate(); }));
+    m_subscriptions.push_back(m_drawingState.objectWillChange.sink([this] {
+        m_isLiveLayerBehind = true;
+        setNeedsUpdate();
+    }));
     observeNotifications();
 }
 
@@ -161,12 +164,22 @@ Damage OverlayContainerView::takeDamage() {
         damage.add(bounds());
     }
     damage.add(m_finishedLayer.update(m_drawingState.strokes, fadingStrokes(now)));
-    damage.add(m_liveLayer.update(m_drawingState.currentStroke));
+    damage.add(bringLiveLayerUpToDate());
     keepAnimating(now);
     return damage;
 }
 
+Damage OverlayContainerView::bringLiveLayerUpToDate() {
+    m_isLiveLayerBehind = false;
+    return m_liveLayer.update(m_drawingState.currentStroke);
+}
+
 void OverlayContainerView::paint(GraphicsContext& context, const CGRect& rect) {
+    // The desktop may ask for a picture between a change and its update; what the change touched
+    // is then still owed everywhere else.
+    if (m_isLiveLayerBehind) {
+        m_pendingDamage.add(bringLiveLayerUpToDate());
+    }
     if (m_whiteboardOpacity > 0) {
         Path sheet;
         sheet.addRect(rect);

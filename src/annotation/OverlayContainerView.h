@@ -83,6 +83,8 @@ private:
     void startAutoEraseTimer(const DrawingStroke& stroke);
     void autoErase(const UUID& id);
     FadingStrokes fadingStrokes(double now);
+    /// Makes the live layer show the stroke in progress as it now is.
+    Damage bringLiveLayerUpToDate();
     /// Asks for another update while anything is still moving.
     void keepAnimating(double now);
     CGRect bounds() const { return {0, 0, m_size.width, m_size.height}; }
@@ -102,6 +104,7 @@ private:
     DrawingCanvasView* m_dragCanvas = nullptr;
     FinishedStrokesLayer m_finishedLayer;
     LiveStrokeLayer m_liveLayer;
+    bool m_isLiveLayerBehind = false;
     std::vector<Fade> m_fades;
     FadeTransition m_whiteboard;
     double m_whiteboardOpacity = 0;
