@@ -11,6 +11,12 @@ namespace {
 constexpr CGFloat kTextFieldWidth = 200;
 constexpr CGFloat kTextSize = 24;
 
+/// Canvases stand one over the other, so the count goes on from one to the next.
+int nextTextFieldIdentity() {
+    static int last = 0;
+    return ++last;
+}
+
 } // namespace
 
 void DrawingCanvasView::setTextEditorResetID(int identity) {
@@ -154,7 +160,7 @@ void DrawingCanvasView::startTextEditing(CGPoint location) {
     m_textPosition = location;
     m_textContent.clear();
     m_isEditingText = true;
-    ++m_textFieldIdentity;
+    m_textFieldIdentity = nextTextFieldIdentity();
     m_connections.onTextFieldChanged();
 }
 

@@ -96,7 +96,7 @@ private:
     std::string m_textContent;
     bool m_isEditingText = false;
     bool m_isTextFieldFocused = false;
-    /// Counts the fields, so that each is known as one of its own.
+    /// Known to no other field of any canvas.
     int m_textFieldIdentity = 0;
     Lifetime m_lifetime;
 };

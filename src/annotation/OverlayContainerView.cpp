@@ -105,9 +105,14 @@ void OverlayContainerView::bringCanvasesUpToDate() {
 void OverlayContainerView::mouseDown(CGPoint location) {
     bringCanvasesUpToDate();
     m_dragCanvas = activeCanvas();
-    if (m_dragCanvas) {
-        m_dragCanvas->mouseDown(location);
+    if (!m_dragCanvas) {
+        return;
     }
+    if (m_dragCanvas == upperCanvas()) {
+        // What is being typed below is committed, as by any press outside of its field.
+        m_lowerCanvas.setTextFieldFocused(false);
+    }
+    m_dragCanvas->mouseDown(location);
 }
 
 void OverlayContainerView::mouseDragged(CGPoint location) {

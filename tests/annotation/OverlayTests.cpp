@@ -141,6 +141,34 @@ TEST_F(Overlay, text_typed_on_the_whiteboard_is_kept_when_annotation_goes_off) {
     EXPECT_FALSE(overlay.textField());
 }
 
+TEST_F(Overlay, text_typed_below_the_whiteboard_is_kept_by_a_press_on_it) {
+    annotate();
+    settings().selectedTool = DrawingTool::text;
+    overlay.mouseDown({10, 10});
+    overlay.mouseUp({10, 10});
+    overlay.textField()->text.set("kept");
+    annotate(true);
+    ASSERT_TRUE(overlay.textField());
+    EXPECT_EQ(overlay.textField()->text.get(), "kept");
+    overlay.mouseDown({200, 200});
+    overlay.mouseUp({200, 200});
+    ASSERT_EQ(state().strokes->size(), 1U);
+    EXPECT_EQ(state().strokes.get()[0].textContent, "kept");
+    ASSERT_TRUE(overlay.textField());
+    EXPECT_EQ(overlay.textField()->center, (CGPoint{200, 200}));
+    EXPECT_EQ(overlay.textField()->text.get(), "");
+}
+
+TEST_F(Overlay, the_fields_of_the_two_canvases_are_never_taken_for_each_other) {
+    annotate();
+    settings().selectedTool = DrawingTool::text;
+    overlay.mouseDown({10, 10});
+    const int below = overlay.textField()->identity;
+    annotate(true);
+    overlay.mouseDown({200, 200});
+    EXPECT_NE(overlay.textField()->identity, below);
+}
+
 TEST_F(Overlay, tool_colour_and_width_are_those_of_the_settings_at_the_moment) {
     annotate();
     settings().selectedTool = DrawingTool::highlighter;
