@@ -27,8 +27,9 @@ protected:
         .currentStroke = state.currentStroke.binding(),
         .onStrokeCompleted = [this](const DrawingStroke& stroke) { completed.push_back(stroke); },
         .onEraserStroke = [this](const DrawingStroke& stroke) { erased.push_back(stroke); },
-        .onTextFieldChanged = [] {},
+        .onTextFieldChanged = [this] { ++textFieldChanges; },
     }};
+    int textFieldChanges = 0;
 };
 
 TEST_F(Canvas, a_press_and_release_at_one_place_leaves_nothing_of_the_pen) {
@@ -93,6 +94,68 @@ TEST_F(Canvas, the_eraser_hands_its_stroke_over_at_the_end_and_to_nobody_else) {
     EXPECT_EQ(erased.size(), 1U);
     EXPECT_TRUE(completed.empty());
     EXPECT_FALSE(current());
+}
+
+TEST_F(Canvas, the_stroke_and_not_the_tool_of_the_end_says_whether_it_erases) {
+    canvas.selectedTool = DrawingTool::eraser;
+    canvas.mouseDown({1, 1});
+    canvas.mouseDragged({9, 9});
+    canvas.selectedTool = DrawingTool::pen;
+    canvas.mouseUp({9, 9});
+    EXPECT_EQ(erased.size(), 1U);
+    EXPECT_TRUE(completed.empty());
+
+    canvas.mouseDown({1, 1});
+    canvas.mouseDragged({9, 9});
+    canvas.selectedTool = DrawingTool::eraser;
+    canvas.mouseUp({9, 9});
+    EXPECT_EQ(erased.size(), 1U);
+    EXPECT_EQ(completed.size(), 1U);
+}
+
+TEST_F(Canvas, an_eraser_stroke_that_nobody_wants_just_vanishes) {
+    DrawingCanvasView lone{{
+        .strokes = state.strokes.binding(),
+        .currentStroke = state.currentStroke.binding(),
+        .onStrokeCompleted = [this](const DrawingStroke& stroke) { completed.push_back(stroke); },
+        .onEraserStroke = {},
+        .onTextFieldChanged = [] {},
+    }};
+    lone.selectedTool = DrawingTool::eraser;
+    lone.mouseDown({1, 1});
+    lone.mouseDragged({9, 9});
+    lone.mouseUp({9, 9});
+    EXPECT_TRUE(completed.empty());
+    EXPECT_FALSE(current());
+}
+
+TEST_F(Canvas, a_shape_takes_tool_colour_and_width_of_the_moment) {
+    canvas.selectedColor = Color(0.1, 0.2, 0.3, 0.4);
+    canvas.lineWidth = 7;
+    for (const auto tool :
+         {DrawingTool::rectangle, DrawingTool::circle, DrawingTool::line, DrawingTool::arrow}) {
+        canvas.selectedTool = tool;
+        canvas.mouseDown({1, 2});
+        ASSERT_TRUE(current());
+        EXPECT_EQ(current()->tool, tool);
+        EXPECT_TRUE(current()->isShape);
+        EXPECT_EQ(current()->shapeType, shapeTypeForTool(tool));
+        EXPECT_EQ(current()->color, CodableColor(Color(0.1, 0.2, 0.3, 0.4)));
+        EXPECT_EQ(current()->lineWidth, 7);
+        EXPECT_FALSE(current()->textContent || current()->fontSize);
+        canvas.mouseUp({1, 2});
+    }
+}
+
+TEST_F(Canvas, a_shape_follows_the_pointer_and_keeps_its_one_point) {
+    canvas.selectedTool = DrawingTool::rectangle;
+    canvas.mouseDown({50, 50});
+    canvas.mouseDragged({30, 90});
+    EXPECT_EQ(current()->cgShapeRect(), (CGRect{30, 50, 20, 40}));
+    EXPECT_EQ(current()->cgShapeEndPoint(), (CGPoint{30, 90}));
+    canvas.mouseDragged({60, 55});
+    EXPECT_EQ(current()->cgShapeRect(), (CGRect{50, 50, 10, 5}));
+    EXPECT_EQ(current()->cgPoints(), (std::vector<CGPoint>{{50, 50}}));
 }
 
 TEST_F(Canvas, a_shape_dragged_up_and_left_has_a_positive_size_and_keeps_its_direction) {
@@ -215,10 +278,38 @@ TEST_F(CanvasText, the_field_that_appeared_brings_the_overlay_forward_and_takes_
     EXPECT_EQ(host.application.activations, 0);
     host.mainQueue.run();
     EXPECT_EQ(host.application.activations, 1);
+    EXPECT_TRUE(host.application.ignoredOtherApps);
     EXPECT_EQ(host.windows.calls.back(), "makeKeyAndOrderFront");
     EXPECT_TRUE(overlay.isVisible());
     EXPECT_FALSE(other.isVisible());
     EXPECT_TRUE(canvas.isTextFieldFocused());
+}
+
+TEST_F(CanvasText, a_field_that_is_to_take_the_keyboard_asks_to_be_brought_up_to_date) {
+    canvas.mouseDown({70, 80});
+    canvas.textField()->onAppear();
+    const int before = textFieldChanges;
+    host.mainQueue.run();
+    EXPECT_GT(textFieldChanges, before);
+}
+
+TEST_F(CanvasText, a_committed_text_takes_colour_and_width_of_the_moment) {
+    typeAt({70, 80}, "Hello");
+    canvas.selectedColor = Color(0.1, 0.2, 0.3, 0.4);
+    canvas.lineWidth = 7;
+    canvas.textField()->onSubmit();
+    ASSERT_EQ(completed.size(), 1U);
+    EXPECT_EQ(completed[0].color, CodableColor(Color(0.1, 0.2, 0.3, 0.4)));
+    EXPECT_EQ(completed[0].lineWidth, 7);
+    EXPECT_FALSE(completed[0].shapeRect || completed[0].shapeStartPoint ||
+                 completed[0].shapeEndPoint);
+}
+
+TEST_F(CanvasText, with_its_field_the_keyboard_goes_too) {
+    typeAt({70, 80}, "Hello");
+    ASSERT_TRUE(canvas.isTextFieldFocused());
+    canvas.textField()->onSubmit();
+    EXPECT_FALSE(canvas.isTextFieldFocused());
 }
 
 TEST_F(CanvasText, return_commits_what_was_typed_where_the_press_began) {
@@ -283,7 +374,8 @@ TEST_F(CanvasText, a_click_elsewhere_commits_and_starts_nothing) {
     canvas.mouseDown({300, 300});
     canvas.mouseDragged({310, 310});
     canvas.mouseUp({310, 310});
-    EXPECT_EQ(completed.size(), 1U);
+    ASSERT_EQ(completed.size(), 1U);
+    EXPECT_EQ(completed[0].cgPoints(), (std::vector<CGPoint>{{70, 80}}));
     EXPECT_FALSE(canvas.isEditingText());
     EXPECT_FALSE(current());
 }
@@ -293,8 +385,10 @@ TEST_F(CanvasText, back_at_its_start_a_drag_opens_the_field_anew) {
     const int first = canvas.textField()->identity;
     canvas.mouseDragged({90, 90});
     EXPECT_EQ(canvas.textField()->identity, first);
+    canvas.textField()->text.set("Hello");
     canvas.mouseDragged({70, 80});
     EXPECT_NE(canvas.textField()->identity, first);
+    EXPECT_EQ(canvas.textField()->text.get(), "");
 }
 
 TEST_F(CanvasText, the_whiteboard_flag_changes_nothing) {

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 namespace quillon::test {
 namespace {
 
@@ -32,6 +35,29 @@ TEST(DrawingState, holds_the_last_50_snapshots_and_no_more) {
     state.undo();
     EXPECT_EQ(state.strokes->size(), 1U);
     EXPECT_EQ(state.redoStack->size(), 50U);
+}
+
+TEST(DrawingState, drops_as_many_of_the_oldest_snapshots_as_there_are_above_50) {
+    DrawingState state;
+    std::vector<StrokeList> snapshots(53);
+    snapshots[4].append(numbered(4));
+    state.undoStack = snapshots;
+    state.addStroke(numbered(1));
+    EXPECT_EQ(state.undoStack->size(), 50U);
+    EXPECT_EQ(state.undoStack->front().size(), 1U);
+}
+
+TEST(DrawingState, adding_takes_the_snapshot_then_adds_then_empties_the_redo_stack) {
+    DrawingState state;
+    std::vector<std::string> steps;
+    const auto snapshot =
+        state.undoStack.sinkDroppingFirst([&](const auto&) { steps.emplace_back("snapshot"); });
+    const auto list =
+        state.strokes.sinkDroppingFirst([&](const auto&) { steps.emplace_back("strokes"); });
+    const auto redo =
+        state.redoStack.sinkDroppingFirst([&](const auto&) { steps.emplace_back("redo"); });
+    state.addStroke(numbered(1));
+    EXPECT_EQ(steps, (std::vector<std::string>{"snapshot", "strokes", "redo"}));
 }
 
 TEST(DrawingState, adding_after_an_undo_empties_the_redo_stack) {
@@ -91,6 +117,26 @@ TEST(DrawingState, clearing_an_empty_list_adds_an_undo_step_whose_snapshot_is_em
     state.clearAll();
     ASSERT_EQ(state.undoStack->size(), 1U);
     EXPECT_TRUE(state.undoStack->front().empty());
+}
+
+TEST(DrawingState, clearing_an_empty_list_empties_the_redo_stack) {
+    DrawingState state;
+    state.addStroke(numbered(1));
+    state.undo();
+    ASSERT_TRUE(state.strokes->empty());
+    state.clearAll();
+    EXPECT_FALSE(state.canRedo());
+}
+
+TEST(DrawingState, undo_and_redo_leave_the_stroke_in_progress) {
+    DrawingState state;
+    state.addStroke(numbered(1));
+    const DrawingStroke young = numbered(2);
+    state.currentStroke = young;
+    state.undo();
+    EXPECT_EQ(state.currentStroke.get(), young);
+    state.redo();
+    EXPECT_EQ(state.currentStroke.get(), young);
 }
 
 TEST(DrawingState, clearing_leaves_the_stroke_in_progress) {

@@ -56,6 +56,18 @@ TEST(Eraser, the_far_end_of_a_long_text_is_out_of_reach) {
     EXPECT_TRUE(erased(text({100, 100}, "a text that goes on and on"), eraser({{300, 110}})));
 }
 
+TEST(Eraser, a_text_is_one_also_without_a_size) {
+    DrawingStroke sizeless = text({100, 100});
+    sizeless.fontSize.reset();
+    EXPECT_FALSE(erased(sizeless, eraser({{100, 100}})));
+}
+
+TEST(Eraser, a_rectangle_makes_no_shape_of_a_freehand_stroke) {
+    DrawingStroke line = freehand({{0, 0}, {100, 0}, {200, 0}});
+    line.shapeRect = CodableRect(CGRect{0, 0, 200, 200});
+    EXPECT_TRUE(erased(line, eraser({{100, 100}})));
+}
+
 TEST(Eraser, a_freehand_stroke_is_reached_by_half_of_the_width) {
     const auto line = freehand({{0, 0}, {100, 0}, {200, 0}});
     EXPECT_EQ(erased(line, eraser({{50, 10}}))->points.size(), 3U);

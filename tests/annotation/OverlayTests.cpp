@@ -78,6 +78,32 @@ TEST_F(Overlay, in_whiteboard_mode_every_stroke_is_seen_twice_over_a_white_sheet
     EXPECT_EQ(drawings[2].kind, Drawing::Kind::bitmap);
 }
 
+TEST_F(Overlay, the_stroke_in_progress_lies_over_all_finished_ones_of_its_canvas) {
+    using Kind = Drawing::Kind;
+    const auto kinds = [&] {
+        std::vector<Kind> result;
+        for (const auto& drawing : painted()) {
+            result.push_back(drawing.kind);
+        }
+        return result;
+    };
+    annotate();
+    drag({10, 10}, {50, 50});
+    settings().selectedTool = DrawingTool::eraser;
+    overlay.mouseDown({10, 10});
+    overlay.mouseDragged({90, 90});
+    update();
+    EXPECT_EQ(kinds(), (std::vector<Kind>{Kind::bitmap, Kind::stroke}));
+    EXPECT_EQ(painted()[1].color, Color::white.opacity(0.5));
+    EXPECT_EQ(painted()[1].style, (StrokeStyle{20, LineCap::round, LineJoin::round}));
+    settings().isWhiteboardMode = true;
+    update();
+    host.mainQueue.advance(1);
+    update();
+    EXPECT_EQ(kinds(), (std::vector<Kind>{Kind::fill, Kind::bitmap, Kind::stroke, Kind::bitmap,
+                                          Kind::stroke}));
+}
+
 TEST_F(Overlay, the_whiteboard_fades_in_and_out) {
     annotate(true);
     host.mainQueue.advance(0.1);
@@ -181,6 +207,34 @@ TEST_F(Overlay, tool_colour_and_width_are_those_of_the_settings_at_the_moment) {
     EXPECT_EQ(stroke.lineWidth, 9);
 }
 
+TEST_F(Overlay, a_setting_changed_on_the_way_holds_for_the_next_move_and_the_release) {
+    annotate();
+    overlay.mouseDown({10, 10});
+    overlay.mouseDragged({20, 20});
+    settings().lineWidth = 9.0;
+    overlay.mouseDragged({10, 10});
+    EXPECT_EQ(state().currentStroke.get()->lineWidth, 9);
+    overlay.mouseDragged({20, 20});
+    settings().selectedTool = DrawingTool::rectangle;
+    overlay.mouseUp({20, 20});
+    EXPECT_TRUE(state().strokes->empty());
+    EXPECT_FALSE(state().currentStroke.get());
+}
+
+TEST_F(Overlay, a_canvas_kept_for_its_drag_goes_after_the_release) {
+    annotate(true);
+    settings().selectedTool = DrawingTool::text;
+    overlay.mouseDown({10, 10});
+    settings().isAnnotationEnabled = false;
+    update();
+    ASSERT_NE(overlay.upperCanvas(), nullptr);
+    const int before = updateRequests;
+    overlay.mouseUp({10, 10});
+    EXPECT_GT(updateRequests, before);
+    update();
+    EXPECT_EQ(overlay.upperCanvas(), nullptr);
+}
+
 TEST_F(Overlay, the_eraser_edits_in_place_without_an_undo_step) {
     annotate();
     drag({10, 10}, {50, 50});
@@ -230,7 +284,11 @@ TEST_F(Overlay, clearing_drops_the_text_being_typed_and_then_empties_the_canvas)
     settings().selectedTool = DrawingTool::text;
     overlay.mouseDown({100, 100});
     overlay.textField()->text.set("lost");
+    bool stoodWhenEmptied = true;
+    const auto subscription = state().strokes.sinkDroppingFirst(
+        [&](const StrokeList&) { stoodWhenEmptied = overlay.textField().has_value(); });
     overlay.clearAllAnnotations();
+    EXPECT_FALSE(stoodWhenEmptied);
     EXPECT_FALSE(overlay.textField());
     EXPECT_TRUE(state().strokes->empty());
     EXPECT_EQ(state().undoStack->size(), 2U);
@@ -263,12 +321,60 @@ TEST_F(AutoErase, a_stroke_fades_over_half_a_second) {
     host.mainQueue.advance(0.25);
     EXPECT_FALSE(update().isEmpty());
     EXPECT_EQ(painted().size(), 1U);
-    host.mainQueue.advance(0.26);
+    EXPECT_NEAR(host.graphics.lastBitmap->context.drawings.back().receivedOpacity,
+                1 - TimingCurve::easeOut.progressAt(0.5), 1e-9);
+    host.mainQueue.advance(0.24);
+    update();
+    EXPECT_EQ(painted().size(), 1U);
+    host.mainQueue.advance(0.02);
     EXPECT_FALSE(update().isEmpty());
     EXPECT_TRUE(painted().empty());
     host.mainQueue.advance(1);
     EXPECT_TRUE(update().isEmpty());
     EXPECT_TRUE(host.mainQueue.isIdle());
+}
+
+TEST_F(AutoErase, an_undo_within_the_fade_shows_the_stroke_in_full_at_once) {
+    drag({10, 10}, {50, 50});
+    host.mainQueue.advance(2);
+    update();
+    host.mainQueue.advance(0.25);
+    update();
+    state().undo();
+    host.graphics.lastBitmap->context.drawings.clear();
+    update();
+    int strokes = 0;
+    for (const auto& drawing : host.graphics.lastBitmap->context.drawings) {
+        if (drawing.kind == Drawing::Kind::stroke) {
+            ++strokes;
+            EXPECT_EQ(drawing.receivedOpacity, 1);
+        }
+    }
+    EXPECT_EQ(strokes, 1);
+    host.mainQueue.advance(1);
+    EXPECT_TRUE(host.mainQueue.isIdle());
+}
+
+TEST_F(AutoErase, strokes_that_fade_together_keep_their_order) {
+    settings().autoEraseTimer = AutoEraseTimer::fiveSeconds;
+    settings().lineWidth = 3.0;
+    drag({10, 10}, {50, 50});
+    settings().autoEraseTimer = AutoEraseTimer::twoSeconds;
+    settings().lineWidth = 6.0;
+    host.mainQueue.advance(2.9);
+    drag({10, 10}, {50, 50});
+    host.mainQueue.advance(2.2);
+    host.graphics.lastBitmap->context.drawings.clear();
+    update();
+    std::vector<CGFloat> widths;
+    for (const auto& drawing : host.graphics.lastBitmap->context.drawings) {
+        if (drawing.kind == Drawing::Kind::stroke) {
+            widths.push_back(drawing.style.lineWidth);
+        }
+    }
+    ASSERT_GE(widths.size(), 2U);
+    EXPECT_EQ(widths[0], 3);
+    EXPECT_EQ(widths[1], 6);
 }
 
 TEST_F(AutoErase, a_task_for_a_stroke_that_was_undone_still_costs_a_step_and_the_redo) {

@@ -135,6 +135,38 @@ TEST(Rendering, a_shape_without_its_rectangle_draws_nothing_yet) {
     EXPECT_TRUE(drawn(young).empty());
 }
 
+TEST(Rendering, a_shape_of_no_size_is_stroked_as_an_empty_figure) {
+    for (const auto type : {ShapeType::rectangle, ShapeType::circle}) {
+        const auto drawings = drawn(shape(type, {5, 6, 0, 0}));
+        ASSERT_EQ(drawings.size(), 1U);
+        EXPECT_EQ(drawings[0].kind, Drawing::Kind::stroke);
+        for (const auto& point : drawings[0].path.points()) {
+            EXPECT_EQ(point, (CGPoint{5, 6}));
+        }
+    }
+}
+
+TEST(Rendering, a_stroke_with_a_rectangle_that_is_no_shape_is_a_path) {
+    DrawingStroke stroke = freehand({{1, 2}, {30, 40}});
+    stroke.shapeType = ShapeType::circle;
+    stroke.shapeRect = CodableRect(CGRect{0, 0, 10, 10});
+    const auto drawings = drawn(stroke);
+    ASSERT_EQ(drawings.size(), 1U);
+    EXPECT_EQ(drawings[0].path.points(), (std::vector<CGPoint>{{1, 2}, {30, 40}}));
+}
+
+TEST(Rendering, a_shape_without_its_kind_is_a_path) {
+    DrawingStroke stroke = shape(ShapeType::circle, {1, 1, 2, 2});
+    stroke.shapeType.reset();
+    EXPECT_TRUE(drawn(stroke).empty());
+}
+
+TEST(Rendering, a_text_without_a_size_draws_nothing) {
+    DrawingStroke stroke = text({70, 80});
+    stroke.fontSize.reset();
+    EXPECT_TRUE(drawn(stroke).empty());
+}
+
 TEST(Rendering, a_text_stands_with_its_top_leading_corner_at_its_point) {
     const auto drawings = drawn(text({70, 80}, "Hello"));
     ASSERT_EQ(drawings.size(), 1U);
@@ -175,6 +207,35 @@ TEST(Rendering, a_fading_stroke_keeps_its_place_in_the_order) {
     drawStrokes(context, strokes, graphics, {{gone, 0.25}});
     ASSERT_EQ(context.drawings.size(), 3U);
     EXPECT_EQ(context.drawings[1].style.lineWidth, 2);
+    EXPECT_EQ(context.drawings[1].receivedOpacity, 0.25);
+    EXPECT_EQ(context.drawings[2].receivedOpacity, 1);
+}
+
+TEST(Rendering, a_fading_highlighter_stroke_stays_on_top) {
+    RecordingContext context;
+    RecordingGraphics graphics;
+    StrokeList strokes{freehand({{1, 1}, {2, 2}}, DrawingTool::highlighter, 1),
+                       freehand({{1, 1}, {2, 2}}, DrawingTool::pen, 2)};
+    const StrokeRef gone = strokes.ref(0);
+    strokes.removeIf([&](const DrawingStroke& stroke) { return stroke.lineWidth == 1; });
+    drawStrokes(context, strokes, graphics, {{gone, 0.25}});
+    ASSERT_EQ(context.drawings.size(), 2U);
+    EXPECT_EQ(context.drawings[1].style.lineWidth, 1);
+    EXPECT_EQ(context.drawings[1].receivedOpacity, 0.25);
+}
+
+TEST(Rendering, a_stroke_made_while_another_fades_lies_over_it) {
+    RecordingContext context;
+    RecordingGraphics graphics;
+    StrokeList strokes{freehand({{1, 1}, {2, 2}}, DrawingTool::pen, 1),
+                       freehand({{1, 1}, {2, 2}}, DrawingTool::pen, 2)};
+    const StrokeRef gone = strokes.ref(1);
+    strokes.removeIf([&](const DrawingStroke& stroke) { return stroke.lineWidth == 2; });
+    strokes.append(freehand({{1, 1}, {2, 2}}, DrawingTool::pen, 3));
+    drawStrokes(context, strokes, graphics, {{gone, 0.25}});
+    ASSERT_EQ(context.drawings.size(), 3U);
+    EXPECT_EQ(context.drawings[1].style.lineWidth, 2);
+    EXPECT_EQ(context.drawings[2].style.lineWidth, 3);
 }
 
 TEST(Rendering, strokes_outside_of_the_clip_are_left_out) {

@@ -42,11 +42,16 @@ private:
 class FakeApplication : public Application {
 public:
     void setActivationPolicy(ActivationPolicy newPolicy) override { policy = newPolicy; }
-    void activate(bool /*ignoringOtherApps*/) override { ++activations; }
+    void activate(bool ignoringOtherApps) override {
+        ++activations;
+        ignoredOtherApps = ignoringOtherApps;
+    }
     void terminate() override { ++terminations; }
 
     ActivationPolicy policy = ActivationPolicy::regular;
     int activations = 0;
+    /// Of the last activation.
+    bool ignoredOtherApps = false;
     int terminations = 0;
 };
 

@@ -25,10 +25,11 @@ struct Drawing {
     CGImage image;
     BlendMode blendMode = BlendMode::normal;
     double opacity = 1;
-    /// How many layers deep it was drawn, and the blend mode with which the innermost of them is
-    /// received.
+    /// How many layers deep it was drawn, and the blend mode and the opacity with which the
+    /// innermost of them is received.
     int depth = 0;
     BlendMode receivedWith = BlendMode::normal;
+    double receivedOpacity = 1;
 };
 
 /// A context that draws nothing and remembers everything.
@@ -94,6 +95,7 @@ private:
         drawing.depth = static_cast<int>(m_states.size()) - 1;
         if (m_states.size() > 1) {
             drawing.receivedWith = m_states[m_states.size() - 2].blendMode;
+            drawing.receivedOpacity = m_states[m_states.size() - 2].opacity;
         }
         return drawing;
     }
