@@ -1,10 +1,16 @@
 #include "desktop/support/ScreenSize.h"
 
+#include <sys/uio.h>
 #include <xcb/randr.h>
+#include <xcb/xcbext.h>
 
 #include <algorithm>
+#include <array>
+#include <cstring>
+#include <optional>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace quillon::test {
 
@@ -48,7 +54,58 @@ xcb_randr_mode_t modeOf(const XConnection& connection, const Resources& resource
     return reply->mode;
 }
 
+/// A part of the screen that counts as a display of its own, shown by `output` if there is one.
+/// The library's own function for this request stops the program, so its words are put together
+/// here.
+void setMonitor(const XConnection& connection, const std::string& name, int x, int width,
+                std::optional<xcb_randr_output_t> output) {
+    xcb_randr_monitor_info_t info{};
+    info.name = connection.atom(name);
+    info.primary = output ? 1 : 0;
+    info.nOutput = output ? 1 : 0;
+    info.x = static_cast<std::int16_t>(x);
+    info.width = static_cast<std::uint16_t>(width);
+    info.height = connection.screen().height_in_pixels;
+    info.width_in_millimeters = info.width / 4U;
+    info.height_in_millimeters = info.height / 4U;
+
+    // The library fills in the first word.
+    std::vector<std::uint32_t> words{0, connection.root()};
+    words.resize(words.size() + sizeof info / sizeof words[0]);
+    std::memcpy(words.data() + 2, &info, sizeof info);
+    if (output) {
+        words.push_back(*output);
+    }
+    const xcb_protocol_request_t request{1, &xcb_randr_id, XCB_RANDR_SET_MONITOR, 1};
+    // The library uses the two places before the first part.
+    std::array<iovec, 3> parts{};
+    parts[2] = {words.data(), words.size() * sizeof words[0]};
+    xcb_send_request(connection.get(), 0, parts.data() + 2, &request);
+}
+
 } // namespace
+
+void switchScreenOff(const XConnection& connection) {
+    const Resources resources = resourcesOf(connection);
+    const xcb_randr_crtc_t crtc = *xcb_randr_get_screen_resources_crtcs(resources.get());
+    const auto request =
+        xcb_randr_set_crtc_config(connection.get(), crtc, XCB_CURRENT_TIME, XCB_CURRENT_TIME, 0, 0,
+                                  XCB_NONE, XCB_RANDR_ROTATION_ROTATE_0, 0, nullptr);
+    const XOwned<xcb_randr_set_crtc_config_reply_t> reply(
+        xcb_randr_set_crtc_config_reply(connection.get(), request, nullptr));
+    if (!reply || reply->status != XCB_RANDR_SET_CONFIG_SUCCESS) {
+        throw std::runtime_error("the server keeps its screen on");
+    }
+}
+
+void splitScreen(const XConnection& connection, int leftWidth) {
+    const Resources resources = resourcesOf(connection);
+    const int width = connection.screen().width_in_pixels;
+    setMonitor(connection, "left", 0, leftWidth,
+               *xcb_randr_get_screen_resources_outputs(resources.get()));
+    setMonitor(connection, "right", leftWidth, width - leftWidth, std::nullopt);
+    connection.synchronise();
+}
 
 void changeScreenSize(const XConnection& connection, int width, int height) {
     const auto newWidth = static_cast<std::uint16_t>(width);

@@ -8,4 +8,10 @@ namespace quillon::test {
 /// size can be larger than the one that the server was started with.
 void changeScreenSize(const XConnection& connection, int width, int height);
 
+/// Switches the one screen off, as when its plug is pulled.
+void switchScreenOff(const XConnection& connection);
+
+/// Makes two displays of the one screen; the left one, which is the primary one, has this width.
+void splitScreen(const XConnection& connection, int leftWidth);
+
 } // namespace quillon::test

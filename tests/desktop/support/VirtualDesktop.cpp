@@ -117,12 +117,18 @@ void VirtualDesktop::startServer(const Options& options) {
     if (pipe(ends) != 0) {
         throw std::runtime_error("no pipe could be made");
     }
-    const std::string geometry =
-        std::to_string(options.width) + "x" + std::to_string(options.height) + "x24";
+    const std::string geometry = std::to_string(options.width) + "x" +
+                                 std::to_string(options.height) + "x" +
+                                 std::to_string(options.depth);
+    std::vector<std::string> command{"Xvfb",      "-displayfd", std::to_string(ends[1]),
+                                     "-screen",   "0",          geometry,
+                                     "-nolisten", "tcp",        "-noreset"};
+    for (const std::string& extension : options.withoutExtensions) {
+        command.insert(command.end(), {"-extension", extension});
+    }
     m_server = std::make_unique<ChildProcess>(
-        std::vector<std::string>{"Xvfb", "-displayfd", std::to_string(ends[1]), "-screen", "0",
-                                 geometry, "-nolisten", "tcp", "-noreset"},
-        ChildProcess::Environment{{"PATH", std::getenv("PATH")}, {"HOME", m_home.path()}}, ends[1]);
+        command, ChildProcess::Environment{{"PATH", std::getenv("PATH")}, {"HOME", m_home.path()}},
+        ends[1]);
     close(ends[1]);
     const std::string number = readDisplayNumber(ends[0]);
     close(ends[0]);

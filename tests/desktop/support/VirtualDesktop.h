@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace quillon::test {
 
@@ -18,6 +19,9 @@ public:
     struct Options {
         int width = 1920;
         int height = 1080;
+        int depth = 24;
+        /// What the server is to do without, by the names of the extensions.
+        std::vector<std::string> withoutExtensions = {};
         bool hasCompositor = true;
         bool hasWindowManager = true;
     };
