@@ -1,5 +1,6 @@
 #include "desktop/qt/ActiveWindow.h"
 #include "desktop/qt/QtApplication.h"
+#include "desktop/qt/QtFileWatch.h"
 #include "desktop/qt/QtGraphics.h"
 #include "desktop/qt/QtImages.h"
 #include "desktop/qt/QtMainQueue.h"
@@ -10,6 +11,7 @@
 #include "desktop/qt/UnixSignals.h"
 #include "desktop/qt/X11EventFilter.h"
 #include "desktop/storage/SqliteDefaults.h"
+#include "desktop/x11/Monitors.h"
 #include "desktop/x11/SingleInstance.h"
 #include "desktop/x11/X11EventMonitors.h"
 #include "desktop/x11/X11HotKeys.h"
@@ -19,6 +21,7 @@
 #include "shell/OrvalisCloneApp.h"
 
 #include <QApplication>
+#include <QScreen>
 #include <unistd.h>
 
 #include <algorithm>
@@ -71,7 +74,9 @@ int run(QApplication& application, xcb_connection_t* connection) {
     SqliteDefaults userDefaults(userConfigFolder());
     QtApplication system;
     QtWindows windows(connection);
-    QtScreens screens([connection] { return activeWindowFrame(connection); });
+    MonitorNumbers monitorNumbers(connection);
+    QtScreens screens([connection] { return activeWindowFrame(connection); },
+                      [&](const std::string& name) { return monitorNumbers.numberOf(name); });
     X11HotKeys hotKeys(connection, root);
     X11EventFilter events;
     QtStatusBar statusBar(events, connection, system);
@@ -79,7 +84,11 @@ int run(QApplication& application, xcb_connection_t* connection) {
     QtGraphics graphics;
     X11EventMonitors eventMonitors;
     QtWorkspace workspace;
-    X11ScreenCapture screenCapture(mainQueue);
+    X11ScreenCapture screenCapture(
+        {qEnvironmentVariable("DISPLAY").toStdString(), mainQueue, qtFileWatch()}, [] {
+            const QScreen* primary = QGuiApplication::primaryScreen();
+            return primary ? primary->devicePixelRatio() : 1;
+        });
     Host host({mainQueue, userDefaults, system, windows, screens, hotKeys, statusBar, images,
                graphics, eventMonitors, workspace, screenCapture});
     OrvalisCloneApp app;

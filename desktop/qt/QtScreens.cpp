@@ -12,13 +12,6 @@ namespace quillon::desktop {
 
 namespace {
 
-NSScreen describe(const QScreen& screen, const QScreen& primary) {
-    const QRectF primaryFrame = primary.geometry();
-    return {globalFromDesktop(QRectF(screen.geometry()), primaryFrame),
-            globalFromDesktop(QRectF(screen.availableGeometry()), primaryFrame),
-            screen.devicePixelRatio(), screen.name().toStdString()};
-}
-
 /// Qt leaves the origin of a screen in device pixels and scales its size alone.
 QRect frameInDevicePixels(const QScreen& screen) {
     return {screen.geometry().topLeft(),
@@ -31,8 +24,9 @@ qint64 area(const QRect& rect) {
 
 } // namespace
 
-QtScreens::QtScreens(ActiveWindowFrame activeWindowFrame)
-    : m_activeWindowFrame(std::move(activeWindowFrame)) {
+QtScreens::QtScreens(ActiveWindowFrame activeWindowFrame, DisplayNumber displayNumber)
+    : m_activeWindowFrame(std::move(activeWindowFrame))
+    , m_displayNumber(std::move(displayNumber)) {
     for (QScreen* screen : QGuiApplication::screens()) {
         watch(screen);
     }
@@ -48,7 +42,7 @@ std::vector<NSScreen> QtScreens::screens() const {
     std::vector<NSScreen> all;
     // Qt keeps the primary screen in front.
     for (const QScreen* screen : QGuiApplication::screens()) {
-        all.push_back(describe(*screen, *QGuiApplication::primaryScreen()));
+        all.push_back(describe(*screen));
     }
     return all;
 }
@@ -59,7 +53,19 @@ std::optional<NSScreen> QtScreens::mainScreen() const {
         return std::nullopt;
     }
     const QScreen* withKeyboard = screenWithKeyboard();
-    return describe(withKeyboard ? *withKeyboard : *primary, *primary);
+    return describe(withKeyboard ? *withKeyboard : *primary);
+}
+
+NSScreen QtScreens::describe(const QScreen& screen) const {
+    const QRectF primaryFrame = QGuiApplication::primaryScreen()->geometry();
+    NSScreen described{globalFromDesktop(QRectF(screen.geometry()), primaryFrame),
+                       globalFromDesktop(QRectF(screen.availableGeometry()), primaryFrame),
+                       screen.devicePixelRatio(), screen.name().toStdString()};
+    const auto number = m_displayNumber ? m_displayNumber(described.localizedName) : std::nullopt;
+    if (number) {
+        described.deviceDescription["NSScreenNumber"] = std::int64_t{*number};
+    }
+    return described;
 }
 
 QScreen* QtScreens::screenWithKeyboard() const {

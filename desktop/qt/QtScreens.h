@@ -5,8 +5,10 @@
 #include <QObject>
 #include <QRect>
 
+#include <cstdint>
 #include <functional>
 #include <optional>
+#include <string>
 
 class QScreen;
 
@@ -18,7 +20,11 @@ public:
     /// Where the window with the keyboard stands, in device pixels; nothing when there is none.
     using ActiveWindowFrame = std::function<std::optional<QRect>()>;
 
-    explicit QtScreens(ActiveWindowFrame activeWindowFrame);
+    /// The number of the display that a screen is, by the screen's name.
+    using DisplayNumber = std::function<std::optional<std::uint32_t>(const std::string& name)>;
+
+    /// Without `displayNumber` no screen tells its number.
+    explicit QtScreens(ActiveWindowFrame activeWindowFrame, DisplayNumber displayNumber = {});
 
     std::vector<NSScreen> screens() const override;
     std::optional<NSScreen> mainScreen() const override;
@@ -33,8 +39,10 @@ private:
     void watch(QScreen* screen);
     void noteChange();
     QScreen* screenWithKeyboard() const;
+    NSScreen describe(const QScreen& screen) const;
 
     ActiveWindowFrame m_activeWindowFrame;
+    DisplayNumber m_displayNumber;
     std::function<void()> m_changed;
     bool m_isChangePending = false;
 };

@@ -29,6 +29,16 @@ TEST(QtScreens, the_primary_screen_comes_first_and_carries_the_origin) {
     EXPECT_EQ(all[1].localizedName, "Right");
 }
 
+TEST(QtScreens, a_screen_tells_the_number_of_its_display) {
+    const QtScreens screens(noWindow, [](const std::string& name) {
+        return name == "Right" ? std::optional<std::uint32_t>(71) : std::nullopt;
+    });
+    const auto all = screens.screens();
+    ASSERT_EQ(all.size(), 2U);
+    EXPECT_TRUE(all[0].deviceDescription.empty());
+    EXPECT_EQ(all[1].deviceDescription, (DeviceDescription{{"NSScreenNumber", std::int64_t{71}}}));
+}
+
 TEST(QtScreens, without_a_window_with_the_keyboard_the_primary_screen_is_the_main_one) {
     EXPECT_EQ(QtScreens(noWindow).mainScreen()->localizedName, "Left");
 }
