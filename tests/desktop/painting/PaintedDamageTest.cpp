@@ -34,10 +34,14 @@ public:
     void update() {
         const Damage damage = overlay.takeDamage();
         for (const CGRect& rect : damage.rects()) {
-            paint(m_screen, rect, [&](GraphicsContext& context, const CGRect& part) {
-                overlay.paint(context, part);
-            });
+            expose(rect);
         }
+    }
+
+    /// The desktop asks for a part of the picture, at a time of its own.
+    void expose(const CGRect& rect) {
+        paint(m_screen, rect,
+              [&](GraphicsContext& context, const CGRect& part) { overlay.paint(context, part); });
     }
 
     /// The plain walk: every segment of every stroke, over the whole screen, from nothing.
@@ -210,6 +214,9 @@ TEST_P(PaintedDamage, after_any_sequence_the_screen_is_pixel_for_pixel_the_plain
         // Several events may fall into one update.
         if (pick(3) != 0) {
             shown.update();
+        } else if (pick(4) == 0) {
+            const CGPoint corner = place();
+            shown.expose({corner.x, corner.y, 100, 60});
         }
         if (step % 10 == 0) {
             shown.update();
