@@ -107,6 +107,7 @@ TEST_F(HotkeyManagerTest, every_hot_key_carries_the_signature_and_its_own_id) {
         EXPECT_EQ(entry.id, (EventHotKeyID{fourCharCodeValue("ORVL"), id}));
         EXPECT_EQ(entry.keyCode, id);
         EXPECT_EQ(entry.modifiers, commandShift);
+        EXPECT_EQ(entry.options, 0U);
         ++id;
     }
     EXPECT_EQ(id, 7U);
@@ -173,6 +174,19 @@ TEST_F(HotkeyManagerTest, a_refused_binding_uses_an_id_up_and_leaves_the_others_
     EXPECT_EQ(manager().hotkeyIDCounter(), 7U);
     EXPECT_EQ(ids(), (Ids{1, 2, 4, 5, 6}));
     EXPECT_EQ(manager().hotkeyRefs().size(), 5U);
+}
+
+TEST_F(HotkeyManagerTest, a_registration_counts_only_with_both_a_good_status_and_a_reference) {
+    const HotkeyConfig binding{9, cmdKey, HotkeyAction::redo};
+    host.hotKeys.oddAnswer = HotKeys::Registration{noErr, std::nullopt};
+    EXPECT_EQ(printedBy([&] { manager().registerHotkey(HotkeyAction::redo, binding); }),
+              "Failed to register hotkey for Redo: 0\n");
+    host.hotKeys.oddAnswer = HotKeys::Registration{paramErr, EventHotKeyRef{7}};
+    EXPECT_EQ(printedBy([&] { manager().registerHotkey(HotkeyAction::redo, binding); }),
+              "Failed to register hotkey for Redo: -50\n");
+    EXPECT_TRUE(manager().hotkeyRefs().empty());
+    EXPECT_TRUE(manager().hotkeyActions().empty());
+    EXPECT_EQ(manager().hotkeyIDCounter(), 3U);
 }
 
 TEST_F(HotkeyManagerTest, a_refused_binding_is_tried_again_with_the_next_map) {

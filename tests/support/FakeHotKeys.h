@@ -16,6 +16,7 @@ public:
         std::uint32_t keyCode;
         std::uint32_t modifiers;
         EventHotKeyID id;
+        std::uint32_t options;
     };
     struct Event : HotKeyEvent {
         std::optional<EventHotKeyID> id;
@@ -24,7 +25,11 @@ public:
     EventTarget getApplicationEventTarget() const override { return EventTarget::application; }
 
     Registration registerEventHotKey(std::uint32_t keyCode, std::uint32_t modifiers,
-                                     EventHotKeyID id, EventTarget, std::uint32_t) override {
+                                     EventHotKeyID id, EventTarget,
+                                     std::uint32_t options) override {
+        if (oddAnswer) {
+            return *oddAnswer;
+        }
         const bool taken = std::ranges::any_of(registered, [&](const auto& entry) {
             return entry.second.keyCode == keyCode && entry.second.modifiers == modifiers;
         });
@@ -32,7 +37,7 @@ public:
             return {eventHotKeyExistsErr, std::nullopt};
         }
         const EventHotKeyRef ref{++m_lastRef};
-        registered.emplace(ref, Registered{keyCode, modifiers, id});
+        registered.emplace(ref, Registered{keyCode, modifiers, id, options});
         return {noErr, ref};
     }
 
@@ -74,6 +79,8 @@ public:
     std::map<EventHotKeyRef, Registered> registered;
     /// Key codes that another program holds, with any modifiers.
     std::vector<std::uint32_t> takenByOthers;
+    /// What every registration is answered with, whatever is asked.
+    std::optional<Registration> oddAnswer;
     OSStatus installationStatus = noErr;
     EventHandler handler = nullptr;
     EventTypeSpec handledType;
