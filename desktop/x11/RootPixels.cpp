@@ -12,7 +12,7 @@ namespace quillon::desktop {
 namespace {
 
 /// Enough for a square of 512 pixels, which few lenses exceed.
-constexpr std::size_t initialBytes = 512 * 512 * 4;
+constexpr std::size_t initialBytes = std::size_t{512} * 512 * 4;
 constexpr std::uint32_t allPlanes = ~std::uint32_t{0};
 
 bool offersSharedMemory(xcb_connection_t* connection) {

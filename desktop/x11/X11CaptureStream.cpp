@@ -28,12 +28,11 @@ CaptureOutcome unsupportedWish(const SCContentFilter& filter,
 
 } // namespace
 
-X11CaptureStream::X11CaptureStream(const CaptureSurroundings& surroundings,
-                                   const SCContentFilter& filter,
+X11CaptureStream::X11CaptureStream(CaptureSurroundings surroundings, SCContentFilter filter,
                                    const SCStreamConfiguration& configuration,
                                    std::shared_ptr<SCStreamDelegate> delegate)
-    : m_surroundings(surroundings)
-    , m_filter(filter)
+    : m_surroundings(std::move(surroundings))
+    , m_filter(std::move(filter))
     , m_configuration(configuration)
     , m_delegate(std::move(delegate)) {}
 

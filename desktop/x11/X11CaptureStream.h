@@ -12,7 +12,7 @@ namespace quillon::desktop {
 /// server. It is the main thread that calls and is called.
 class X11CaptureStream : public SCStream, public std::enable_shared_from_this<X11CaptureStream> {
 public:
-    X11CaptureStream(const CaptureSurroundings& surroundings, const SCContentFilter& filter,
+    X11CaptureStream(CaptureSurroundings surroundings, SCContentFilter filter,
                      const SCStreamConfiguration& configuration,
                      std::shared_ptr<SCStreamDelegate> delegate);
 
