@@ -14,7 +14,6 @@ namespace {
 constexpr double kWhiteboardOpacity = 0.9;
 constexpr double kWhiteboardFade = 0.25;
 constexpr double kEraseFade = 0.5;
-constexpr double kAnimationFrame = 1.0 / 60;
 
 /// Where a toolbar that was never placed stands: this far from the right and from the top.
 constexpr CGFloat kToolbarFromRight = 150;
@@ -309,12 +308,8 @@ FadingStrokes OverlayContainerView::fadingStrokes(double now) {
 
 void OverlayContainerView::keepAnimating(double now) {
     const bool isMoving = !m_fades.empty() || m_whiteboard.isRunning(now);
-    if (isMoving && !m_isTickPending) {
-        m_isTickPending = true;
-        Host::current().mainQueue().asyncAfter(kAnimationFrame, m_lifetime.guard([this] {
-            m_isTickPending = false;
-            setNeedsUpdate();
-        }));
+    if (isMoving) {
+        m_ticker.request([this] { setNeedsUpdate(); });
     }
 }
 

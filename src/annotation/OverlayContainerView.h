@@ -10,6 +10,7 @@
 #include "foundation/Lifetime.h"
 #include "model/AppSettings.h"
 #include "platform/ContentView.h"
+#include "platform/FrameTicker.h"
 #include "toolbar/FloatingToolbarView.h"
 
 #include <memory>
@@ -108,7 +109,7 @@ private:
     std::vector<Fade> m_fades;
     FadeTransition m_whiteboard;
     double m_whiteboardOpacity = 0;
-    bool m_isTickPending = false;
+    FrameTicker m_ticker;
     Damage m_pendingDamage;
     std::vector<Cancellable> m_subscriptions;
     Lifetime m_lifetime;

@@ -15,12 +15,13 @@ public:
     /// The progress at `time`, both from 0 to 1; outside of that range it stays at its ends.
     double progressAt(double time) const;
 
-    static const TimingCurve easeIn, easeOut, easeInOut;
+    static const TimingCurve linear, easeIn, easeOut, easeInOut;
 
 private:
     double m_x1, m_y1, m_x2, m_y2;
 };
 
+inline constexpr TimingCurve TimingCurve::linear{0, 0, 1, 1};
 inline constexpr TimingCurve TimingCurve::easeIn{0.42, 0, 1, 1};
 inline constexpr TimingCurve TimingCurve::easeOut{0, 0, 0.58, 1};
 inline constexpr TimingCurve TimingCurve::easeInOut{0.42, 0, 0.58, 1};

@@ -21,6 +21,7 @@ struct NSScreen {
     /// "NSScreenNumber" is the number of its display for screen capture; missing when the host
     /// cannot tell.
     DeviceDescription deviceDescription{};
+    double maximumFramesPerSecond = 60;
 
     friend bool operator==(const NSScreen&, const NSScreen&) = default;
 };

@@ -43,4 +43,10 @@ TEST(TimingCurve, control_points_on_the_diagonal_give_steady_progress) {
     }
 }
 
+TEST(TimingCurve, the_linear_one_is_the_time_itself) {
+    for (int step = 0; step <= 100; ++step) {
+        EXPECT_NEAR(TimingCurve::linear.progressAt(step / 100.0), step / 100.0, 1e-9);
+    }
+}
+
 } // namespace quillon::test
