@@ -47,12 +47,18 @@ ContentWidget::ContentWidget(std::function<void()> onPress)
 
 ContentWidget::~ContentWidget() {
     if (m_content) {
+        m_content->onRootViewChange = {};
         m_content->rootView->setUpdateRequest({});
     }
 }
 
 void ContentWidget::setContentView(const std::shared_ptr<HostingView>& view) {
     m_content = view;
+    m_content->onRootViewChange = [this] { adoptRootView(); };
+    adoptRootView();
+}
+
+void ContentWidget::adoptRootView() {
     m_content->rootView->setUpdateRequest([this] { requestUpdate(); });
     layoutContent();
 }

@@ -48,6 +48,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    void adoptRootView();
     void requestUpdate();
     /// Spares a motion that stands alone the way through the event queue, while in a burst the
     /// update still waits behind all input that has arrived.

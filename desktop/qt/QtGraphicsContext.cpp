@@ -1,5 +1,6 @@
 #include "desktop/qt/QtGraphicsContext.h"
 
+#include "desktop/qt/Blur.h"
 #include "desktop/qt/QtBitmap.h"
 #include "desktop/qt/QtConversions.h"
 #include "desktop/qt/QtLayer.h"
@@ -40,6 +41,31 @@ void QtGraphicsContext::fillEvenOdd(const Path& path, const Color& color) {
 
 void QtGraphicsContext::stroke(const Path& path, const Color& color, const StrokeStyle& style) {
     m_painter.strokePath(toQPainterPath(path), toQPen(color, style));
+}
+
+void QtGraphicsContext::strokeWithShadow(const Path& path, const Color& color,
+                                         const StrokeStyle& style, const Shadow& shadow) {
+    const QPen pen = toQPen(color, style);
+    QPainterPathStroker stroker(pen);
+    const QPainterPath outline = stroker.createStroke(toQPainterPath(path));
+    drawShadow(outline.translated(shadow.offset.width, shadow.offset.height), shadow);
+    m_painter.strokePath(toQPainterPath(path), pen);
+}
+
+void QtGraphicsContext::drawShadow(const QPainterPath& outline, const Shadow& shadow) {
+    const CGFloat deviation = shadow.radius / 2;
+    const CGRect reach = fromQRectF(outline.boundingRect()).outset(blurReach(deviation));
+    const QRect pixels = devicePixels(reach, m_scale);
+    QImage picture(pixels.size(), QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(-pixels.topLeft());
+    painter.scale(m_scale, m_scale);
+    painter.fillPath(outline, Qt::black);
+    painter.end();
+    drawPixels(tinted(blurred(picture, deviation * m_scale), toQColor(shadow.color)),
+               picture.rect(), pixels.topLeft());
 }
 
 void QtGraphicsContext::drawText(const Text& text, CGPoint at, Anchor anchor) {

@@ -25,6 +25,8 @@ public:
     void fill(const Path& path, const Color& color) override;
     void fillEvenOdd(const Path& path, const Color& color) override;
     void stroke(const Path& path, const Color& color, const StrokeStyle& style) override;
+    void strokeWithShadow(const Path& path, const Color& color, const StrokeStyle& style,
+                          const Shadow& shadow) override;
     void drawText(const Text& text, CGPoint at, Anchor anchor) override;
     void clear(const CGRect& rect) override;
     void draw(const Bitmap& bitmap, const CGRect& rect) override;
@@ -37,6 +39,7 @@ protected:
 private:
     friend class QtLayer;
 
+    void drawShadow(const QPainterPath& outline, const Shadow& shadow);
     /// Draws pixels of an image at device pixels of the painter, one to one.
     void drawPixels(const QImage& image, const QRect& from, QPoint to);
 

@@ -58,6 +58,11 @@ void QtLayer::stroke(const Path& path, const Color& color, const StrokeStyle& st
     perform([path, color, style](GraphicsContext& context) { context.stroke(path, color, style); });
 }
 
+void QtLayer::strokeWithShadow(const Path& path, const Color& color, const StrokeStyle& style,
+                               const Shadow& shadow) {
+    ownContext().strokeWithShadow(path, color, style, shadow);
+}
+
 void QtLayer::drawText(const Text& text, CGPoint at, Anchor anchor) {
     perform([text, at, anchor](GraphicsContext& context) { context.drawText(text, at, anchor); });
 }

@@ -33,6 +33,8 @@ public:
     void fill(const Path& path, const Color& color) override;
     void fillEvenOdd(const Path& path, const Color& color) override;
     void stroke(const Path& path, const Color& color, const StrokeStyle& style) override;
+    void strokeWithShadow(const Path& path, const Color& color, const StrokeStyle& style,
+                          const Shadow& shadow) override;
     void drawText(const Text& text, CGPoint at, Anchor anchor) override;
     void clear(const CGRect& rect) override;
     void draw(const Bitmap& bitmap, const CGRect& rect) override;

@@ -48,14 +48,16 @@ public:
     /// The host hands in how it wants to be asked for an update; it coalesces requests.
     void setUpdateRequest(std::function<void()> request) { m_updateRequest = std::move(request); }
 
+    /// The window has come on the screen.
+    virtual void onAppear() {}
     /// The view's size, and the device pixels to a point.
     virtual void layout(CGSize size, CGFloat scale) = 0;
 
     /// A press, moves and a release of the primary button. A press that the view does not take is
     /// followed by moves and a release all the same.
-    virtual void mouseDown(CGPoint location) = 0;
-    virtual void mouseDragged(CGPoint location) = 0;
-    virtual void mouseUp(CGPoint location) = 0;
+    virtual void mouseDown(CGPoint /*location*/) {}
+    virtual void mouseDragged(CGPoint /*location*/) {}
+    virtual void mouseUp(CGPoint /*location*/) {}
 
     /// Where the picture has changed since the last call.
     virtual Damage takeDamage() = 0;

@@ -24,6 +24,17 @@ struct StrokeStyle {
     friend bool operator==(const StrokeStyle&, const StrokeStyle&) = default;
 };
 
+/// A blurred copy below what is drawn: the same outline in a colour of its own, whatever the colour
+/// above. Half of `radius` is the standard deviation of the blur; the copy is moved by `offset`.
+/// In points.
+struct Shadow {
+    Color color = Color::black;
+    CGFloat radius = 0;
+    CGSize offset;
+
+    friend bool operator==(const Shadow&, const Shadow&) = default;
+};
+
 /// A single line of text in the system font, default weight and design.
 struct Text {
     std::string string;
@@ -55,6 +66,9 @@ public:
     /// Fills what an odd number of the path's outlines goes round: a hole in a rectangle.
     virtual void fillEvenOdd(const Path& path, const Color& color) = 0;
     virtual void stroke(const Path& path, const Color& color, const StrokeStyle& style) = 0;
+    /// The shadow first, the stroke over it.
+    virtual void strokeWithShadow(const Path& path, const Color& color, const StrokeStyle& style,
+                                  const Shadow& shadow) = 0;
     virtual void drawText(const Text& text, CGPoint at, Anchor anchor) = 0;
 
     /// Replaces what stands in `rect` with full transparency, whatever the blend mode.

@@ -1,5 +1,9 @@
 #include "platform/Path.h"
 
+#include <algorithm>
+#include <numbers>
+#include <utility>
+
 namespace quillon {
 
 void Path::addRect(const CGRect& rect) {
@@ -28,6 +32,46 @@ void Path::addEllipse(const CGRect& rect) {
     addCurve(left, {bottom.x - kx, bottom.y}, {left.x, left.y + ky});
     addCurve(top, {left.x, left.y - ky}, {top.x - kx, top.y});
     addCurve(right, {top.x + kx, top.y}, {right.x, right.y - ky});
+    closeSubpath();
+}
+
+void Path::addContinuousRoundedRect(const CGRect& rect, CGFloat cornerRadius) {
+    // Half a corner is one cubic from the side to the diagonal; the other half mirrors it, so the
+    // curvatures of the two agree where they meet. With the corner's tip at the origin and a side
+    // along x, it runs from (reach, 0) over (bend, 0) and (2m, 0) to (m, m). Three points on the
+    // side make the curvature begin at none; the last two stand along the tangent on the diagonal.
+    // There the curvature is 2/3 |(P3 - P2) x (P2 - P1)| / |P3 - P2|^3, and the bend makes that
+    // 1 / radius.
+    const CGFloat half = std::min(rect.width, rect.height) / 2;
+    const CGFloat radius = std::clamp(cornerRadius, 0.0, std::max(half, 0.0));
+    const CGFloat m = radius * (1 - std::numbers::sqrt2 / 2);
+    const CGFloat bend = radius > 0 ? 2 * m + 3 * std::numbers::sqrt2 * m * m / radius : 0;
+    const CGFloat reach = std::min(1.5 * radius, half);
+
+    struct Corner {
+        CGPoint tip;
+        /// Unit vectors from the tip along the side that leads to it, and along the next.
+        CGPoint before;
+        CGPoint after;
+    };
+    const Corner corners[] = {
+        {{rect.maxX(), rect.minY()}, {-1, 0}, {0, 1}},
+        {{rect.maxX(), rect.maxY()}, {0, -1}, {-1, 0}},
+        {{rect.minX(), rect.maxY()}, {1, 0}, {0, -1}},
+        {{rect.minX(), rect.minY()}, {0, 1}, {1, 0}},
+    };
+    bool isFirst = true;
+    for (const auto& [tip, before, after] : corners) {
+        const CGPoint start = tip + before * reach;
+        if (std::exchange(isFirst, false)) {
+            move(start);
+        } else {
+            addLine(start);
+        }
+        const CGPoint middle = tip + before * m + after * m;
+        addCurve(middle, tip + before * bend, tip + before * (2 * m));
+        addCurve(tip + after * reach, tip + after * (2 * m), tip + after * bend);
+    }
     closeSubpath();
 }
 

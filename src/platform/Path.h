@@ -22,6 +22,12 @@ public:
     void addRect(const CGRect& rect);
     /// The ellipse inscribed in `rect`, as four curves.
     void addEllipse(const CGRect& rect);
+    /// A rectangle whose corners turn with continuous curvature: it is none where a side ends, and
+    /// grows to that of a circle of `cornerRadius` on the corner's diagonal, which the outline
+    /// crosses where that circle does. A corner begins one and a half radii before the sides would
+    /// meet. The radius is at most half of the shorter side, and where there is no room, corners
+    /// begin in the middle of a side.
+    void addContinuousRoundedRect(const CGRect& rect, CGFloat cornerRadius);
 
     bool isEmpty() const { return m_verbs.empty(); }
     void clear() {

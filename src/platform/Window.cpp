@@ -2,6 +2,8 @@
 
 #include "platform/Host.h"
 
+#include <utility>
+
 namespace quillon {
 
 Window::Window(const CGRect& contentRect, WindowStyleMask styleMask, BackingStoreType backing,
@@ -34,13 +36,20 @@ void Window::setContentView(std::shared_ptr<HostingView> view) {
 }
 
 void Window::orderFrontRegardless() {
-    m_isVisible = true;
     m_backend->orderFrontRegardless();
+    noteShown();
 }
 
 void Window::makeKeyAndOrderFront() {
-    m_isVisible = true;
     m_backend->makeKeyAndOrderFront();
+    noteShown();
+}
+
+void Window::noteShown() {
+    const bool wasVisible = std::exchange(m_isVisible, true);
+    if (!wasVisible && m_contentView) {
+        m_contentView->rootView->onAppear();
+    }
 }
 
 void Window::orderOut() {

@@ -5,8 +5,8 @@
 #include "platform/ContentView.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
-
 #include <string>
 #include <utility>
 
@@ -36,7 +36,17 @@ struct HostingView {
     explicit HostingView(std::unique_ptr<ContentView> root)
         : rootView(std::move(root)) {}
 
+    /// Puts another root view in the place of the present one, on the screen as well.
+    void setRootView(std::unique_ptr<ContentView> root) {
+        rootView = std::move(root);
+        if (onRootViewChange) {
+            onRootViewChange();
+        }
+    }
+
     std::unique_ptr<ContentView> rootView;
+    /// How the host that shows the view hears of another root view.
+    std::function<void()> onRootViewChange;
     CGRect frame;
     std::uint32_t autoresizingMask = 0;
 };
@@ -125,8 +135,12 @@ public:
     void orderFrontRegardless();
     void makeKeyAndOrderFront();
     void orderOut();
+    /// Takes the window off the screen for good. Its owner still has it.
+    void close() { orderOut(); }
 
 private:
+    void noteShown();
+
     WindowStyleMask m_styleMask;
     BackingStoreType m_backing;
     bool m_defersCreation;

@@ -2,17 +2,9 @@
 
 #include "foundation/Color.h"
 #include "foundation/Geometry.h"
+#include "platform/GraphicsContext.h"
 
 namespace quillon {
-
-/// A soft shadow round a figure. Radius and offset in points.
-struct Shadow {
-    Color color = Color::black;
-    CGFloat radius = 0;
-    CGSize offset;
-
-    friend bool operator==(const Shadow&, const Shadow&) = default;
-};
 
 /// A round swatch: a disc, and round it a ring while it is the selected one. Sizes in points.
 struct ColorSwatchView {

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+#include <numbers>
 #include <vector>
 
 namespace quillon::test {
@@ -15,6 +18,40 @@ CGPoint onCurve(CGPoint start, CGPoint control1, CGPoint control2, CGPoint end, 
     const double u = 1 - t;
     return start * (u * u * u) + control1 * (3 * u * u * t) + control2 * (3 * u * t * t) +
            end * (t * t * t);
+}
+
+struct Cubic {
+    CGPoint start;
+    CGPoint control1;
+    CGPoint control2;
+    CGPoint end;
+
+    /// Of the turn to the right, as the screen's coordinates have it.
+    double curvature(double t) const {
+        const double u = 1 - t;
+        const CGPoint first = (control1 - start) * (3 * u * u) +
+                              (control2 - control1) * (6 * u * t) + (end - control2) * (3 * t * t);
+        const CGPoint second =
+            (control2 - control1 * 2 + start) * (6 * u) + (end - control2 * 2 + control1) * (6 * t);
+        return (first.x * second.y - first.y * second.x) /
+               std::pow(std::hypot(first.x, first.y), 3);
+    }
+};
+
+std::vector<Cubic> curvesOf(const Path& path) {
+    std::vector<Cubic> curves;
+    CGPoint place;
+    auto point = path.points().begin();
+    for (const Verb verb : path.verbs()) {
+        if (verb == Verb::curve) {
+            curves.push_back({place, point[0], point[1], point[2]});
+            point += 3;
+            place = curves.back().end;
+        } else if (verb != Verb::close) {
+            place = *point++;
+        }
+    }
+    return curves;
 }
 
 } // namespace
@@ -73,6 +110,60 @@ TEST(Path, an_empty_one_has_no_bounds) {
     path.clear();
     EXPECT_TRUE(path.isEmpty());
     EXPECT_EQ(path, Path());
+}
+
+TEST(Path, a_continuous_corner_crosses_the_diagonal_where_the_circle_does) {
+    Path path;
+    path.addContinuousRoundedRect({0, 0, 100, 80}, 20);
+    const CGFloat tip = 20 * (1 - std::numbers::sqrt2 / 2);
+    for (const CGPoint middle : {CGPoint{100 - tip, tip}, CGPoint{100 - tip, 80 - tip},
+                                 CGPoint{tip, 80 - tip}, CGPoint{tip, tip}}) {
+        const bool isOnPath = std::ranges::any_of(
+            path.points(), [&](CGPoint point) { return distance(point, middle) < 1e-9; });
+        EXPECT_TRUE(isOnPath) << middle.x << ", " << middle.y;
+    }
+}
+
+TEST(Path, the_curvature_of_a_continuous_corner_has_no_jump) {
+    Path path;
+    path.addContinuousRoundedRect({0, 0, 100, 100}, 20);
+    double last = 0;
+    double largest = 0;
+    for (const Cubic& curve : curvesOf(path)) {
+        for (int step = 0; step <= 400; ++step) {
+            const double now = curve.curvature(step / 400.0);
+            EXPECT_NEAR(now, last, 0.002);
+            largest = std::max(largest, now);
+            last = now;
+        }
+    }
+    EXPECT_NEAR(last, 0, 1e-9) << "a side is straight where a corner ends";
+    EXPECT_GE(largest, 1.0 / 20);
+    EXPECT_LT(largest, 1.4 / 20);
+}
+
+TEST(Path, a_continuous_corner_begins_one_and_a_half_radii_before_the_tip) {
+    Path path;
+    path.addContinuousRoundedRect({10, 20, 100, 80}, 20);
+    EXPECT_EQ(path.points().front(), (CGPoint{80, 20}));
+    EXPECT_EQ(path.controlPointBounds(), (CGRect{10, 20, 100, 80}));
+    EXPECT_EQ(path.verbs().size(), 1 + 3 + 8 + 1U) << "a move, three sides, two curves a corner";
+}
+
+TEST(Path, corners_without_room_meet_in_the_middle_of_a_side) {
+    Path path;
+    path.addContinuousRoundedRect({0, 0, 40, 20}, 1000);
+    EXPECT_EQ(path.points().front(), (CGPoint{30, 0}));
+    EXPECT_EQ(path.controlPointBounds(), (CGRect{0, 0, 40, 20}));
+}
+
+TEST(Path, a_rounded_rectangle_without_size_or_radius_is_still_a_figure) {
+    Path point;
+    point.addContinuousRoundedRect({5, 5, 0, 0}, 10);
+    EXPECT_EQ(point.controlPointBounds(), (CGRect{5, 5, 0, 0}));
+    Path sharp;
+    sharp.addContinuousRoundedRect({0, 0, 10, 10}, 0);
+    EXPECT_EQ(sharp.controlPointBounds(), (CGRect{0, 0, 10, 10}));
 }
 
 } // namespace quillon::test

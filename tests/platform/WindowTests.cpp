@@ -20,6 +20,15 @@ protected:
     FakeHost host;
 };
 
+struct AppearingView : ContentView {
+    void onAppear() override { ++appearances; }
+    void layout(CGSize, CGFloat) override {}
+    Damage takeDamage() override { return {}; }
+    void paint(GraphicsContext&, const CGRect&) override {}
+
+    int appearances = 0;
+};
+
 using Calls = std::vector<std::string>;
 
 } // namespace
@@ -70,6 +79,29 @@ TEST_F(WindowTest, it_comes_on_screen_and_leaves_it) {
     window->makeKeyAndOrderFront();
     EXPECT_TRUE(window->isVisible());
     EXPECT_EQ(host.windows.calls, (Calls{"orderFront", "orderOut", "makeKeyAndOrderFront"}));
+}
+
+TEST_F(WindowTest, its_view_is_told_each_time_it_appears) {
+    const auto window = makeWindow();
+    auto view = std::make_unique<AppearingView>();
+    const int& appearances = view->appearances;
+    window->setContentView(std::make_shared<HostingView>(std::move(view)));
+    EXPECT_EQ(appearances, 0);
+    window->orderFrontRegardless();
+    window->orderFrontRegardless();
+    EXPECT_EQ(appearances, 1);
+    window->orderOut();
+    window->makeKeyAndOrderFront();
+    EXPECT_EQ(appearances, 2);
+}
+
+TEST_F(WindowTest, closed_it_is_off_the_screen_and_its_owner_still_has_it) {
+    const auto window = makeWindow();
+    window->orderFrontRegardless();
+    window->close();
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_EQ(host.windows.calls.back(), "orderOut");
+    EXPECT_EQ(host.application.windows(), std::vector{window.get()});
 }
 
 } // namespace quillon::test

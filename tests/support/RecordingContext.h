@@ -5,6 +5,7 @@
 #include "platform/GraphicsContext.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,7 @@ struct Drawing {
     Path path;
     Color color = Color::clear;
     StrokeStyle style;
+    std::optional<Shadow> shadow;
     Text text;
     CGPoint at;
     Anchor anchor = Anchor::topLeading;
@@ -54,6 +56,11 @@ public:
         drawing.path = path;
         drawing.color = color;
         drawing.style = style;
+    }
+    void strokeWithShadow(const Path& path, const Color& color, const StrokeStyle& style,
+                          const Shadow& shadow) override {
+        stroke(path, color, style);
+        drawings.back().shadow = shadow;
     }
     void drawText(const Text& text, CGPoint at, Anchor anchor) override {
         auto& drawing = record(Drawing::Kind::text);
