@@ -1,5 +1,6 @@
 #include "desktop/qt/ActiveWindow.h"
 #include "desktop/qt/QtApplication.h"
+#include "desktop/qt/QtEventMonitors.h"
 #include "desktop/qt/QtFileWatch.h"
 #include "desktop/qt/QtGraphics.h"
 #include "desktop/qt/QtImages.h"
@@ -13,7 +14,6 @@
 #include "desktop/storage/SqliteDefaults.h"
 #include "desktop/x11/Monitors.h"
 #include "desktop/x11/SingleInstance.h"
-#include "desktop/x11/X11EventMonitors.h"
 #include "desktop/x11/X11HotKeys.h"
 #include "desktop/x11/X11ScreenCapture.h"
 #include "desktop/x11/XcbHandles.h"
@@ -82,7 +82,9 @@ int run(QApplication& application, xcb_connection_t* connection) {
     QtStatusBar statusBar(events, connection, system);
     QtImages images;
     QtGraphics graphics;
-    X11EventMonitors eventMonitors;
+    QtEventMonitors eventMonitors(
+        connection, qEnvironmentVariable("DISPLAY").toStdString(),
+        [&screens](QPoint pixel) { return screens.globalFromDevicePixel(pixel); });
     QtWorkspace workspace;
     X11ScreenCapture screenCapture(
         {qEnvironmentVariable("DISPLAY").toStdString(), mainQueue, qtFileWatch()}, [] {

@@ -5,7 +5,7 @@ build_packages=(
     cmake g++ ninja-build pkg-config
     qt6-base-dev qt6-svg-dev qt6-qpa-plugins
     libxcb1-dev libxcb-damage0-dev libxcb-randr0-dev libxcb-shape0-dev libxcb-shm0-dev
-    libxcb-xfixes0-dev libxcb-xkb-dev
+    libxcb-xfixes0-dev libxcb-xinput-dev libxcb-xkb-dev
     libsqlite3-dev nlohmann-json3-dev fonts-dejavu-core
 )
 

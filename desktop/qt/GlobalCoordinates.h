@@ -13,6 +13,12 @@
 /// gives it; it need not lie at the desktop's origin.
 namespace quillon::desktop {
 
+/// The X server counts device pixels. A screen's origin is the same in both; only what lies on the
+/// screen is scaled, by the number of device pixels to a point.
+inline QPointF desktopFromDevicePixels(QPointF pixels, QPointF screenOrigin, qreal scale) {
+    return screenOrigin + (pixels - screenOrigin) / scale;
+}
+
 inline CGPoint globalFromDesktop(QPointF point, const QRectF& primaryScreen) {
     return {point.x() - primaryScreen.left(), primaryScreen.bottom() - point.y()};
 }

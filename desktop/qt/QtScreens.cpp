@@ -61,11 +61,29 @@ NSScreen QtScreens::describe(const QScreen& screen) const {
     NSScreen described{globalFromDesktop(QRectF(screen.geometry()), primaryFrame),
                        globalFromDesktop(QRectF(screen.availableGeometry()), primaryFrame),
                        screen.devicePixelRatio(), screen.name().toStdString()};
+    described.maximumFramesPerSecond = screen.refreshRate();
     const auto number = m_displayNumber ? m_displayNumber(described.localizedName) : std::nullopt;
     if (number) {
         described.deviceDescription["NSScreenNumber"] = std::int64_t{*number};
     }
     return described;
+}
+
+CGPoint QtScreens::globalFromDevicePixel(QPoint pixel) const {
+    const QScreen* primary = QGuiApplication::primaryScreen();
+    if (!primary) {
+        return {};
+    }
+    const QScreen* holder = primary;
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        if (frameInDevicePixels(*screen).contains(pixel)) {
+            holder = screen;
+            break;
+        }
+    }
+    return globalFromDesktop(
+        desktopFromDevicePixels(pixel, holder->geometry().topLeft(), holder->devicePixelRatio()),
+        QRectF(primary->geometry()));
 }
 
 QScreen* QtScreens::screenWithKeyboard() const {

@@ -29,6 +29,9 @@ public:
     std::vector<NSScreen> screens() const override;
     std::optional<NSScreen> mainScreen() const override;
 
+    /// The global place of a device pixel, counted from the desktop's top left.
+    CGPoint globalFromDevicePixel(QPoint pixel) const;
+
     /// Called in a later turn of the loop than the change, once for all changes of one turn.
     void setChangeHandler(std::function<void()> changed) { m_changed = std::move(changed); }
 

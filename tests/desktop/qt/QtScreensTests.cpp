@@ -76,4 +76,11 @@ TEST(QtScreens, changes_of_one_turn_are_told_once_and_in_a_later_turn) {
     EXPECT_EQ(told, 2);
 }
 
+TEST(QtScreens, a_device_pixel_has_its_global_place_on_every_screen) {
+    const QtScreens screens(noWindow);
+    EXPECT_EQ(screens.globalFromDevicePixel({0, 0}), (CGPoint{0, 900}));
+    EXPECT_EQ(screens.globalFromDevicePixel({1599, 899}), (CGPoint{1599, 1}));
+    EXPECT_EQ(screens.globalFromDevicePixel({1600, -300}), (CGPoint{1600, 1200}));
+}
+
 } // namespace quillon::test

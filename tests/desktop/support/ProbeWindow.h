@@ -29,6 +29,7 @@ public:
     /// Asks the window manager for the whole screen, above panels, as a film player would.
     void fillScreen();
     xcb_window_t id() const { return m_window; }
+    xcb_connection_t* connection() const { return m_connection.get(); }
 
 private:
     void countEvents();

@@ -1,0 +1,142 @@
+#include "desktop/x11/RawPointerEvents.h"
+
+#include "desktop/x11/XcbHandles.h"
+
+#include <xcb/xinput.h>
+
+#include <optional>
+#include <utility>
+
+namespace quillon::desktop {
+
+namespace {
+
+constexpr std::uint16_t kButtonBits = XCB_BUTTON_MASK_1 | XCB_BUTTON_MASK_2 | XCB_BUTTON_MASK_3 |
+                                      XCB_BUTTON_MASK_4 | XCB_BUTTON_MASK_5;
+/// Buttons 4 to 7 are the turns of wheels.
+constexpr std::uint8_t kFirstWheelButton = 4;
+constexpr std::uint8_t kLastWheelButton = 7;
+/// The first two valuators of a pointer are its place; others are wheels, pressure and tilt.
+constexpr std::uint32_t kPlaceValuators = 0x3;
+
+/// The number of the extension, if the server has it in a version with raw events for everybody,
+/// also while another client holds the pointer.
+std::optional<std::uint8_t> inputExtension(xcb_connection_t* connection) {
+    const xcb_query_extension_reply_t* extension =
+        xcb_get_extension_data(connection, &xcb_input_id);
+    if (!extension || !extension->present) {
+        return std::nullopt;
+    }
+    const XcbOwned<xcb_input_xi_query_version_reply_t> version(xcb_input_xi_query_version_reply(
+        connection, xcb_input_xi_query_version(connection, 2, 2), nullptr));
+    const bool isEnough = version && (version->major_version > 2 ||
+                                      (version->major_version == 2 && version->minor_version >= 1));
+    return isEnough ? std::optional(extension->major_opcode) : std::nullopt;
+}
+
+bool selectRawEvents(xcb_connection_t* connection, xcb_window_t root) {
+    struct {
+        xcb_input_event_mask_t head{XCB_INPUT_DEVICE_ALL_MASTER, 1};
+        std::uint32_t events =
+            XCB_INPUT_XI_EVENT_MASK_RAW_MOTION | XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS;
+    } const mask;
+    return !requestError(connection,
+                         xcb_input_xi_select_events_checked(connection, root, 1, &mask.head));
+}
+
+/// False for a device's wheel or pen pressure, which comes as a motion too.
+bool changesPlace(const xcb_input_raw_motion_event_t& motion) {
+    return motion.valuators_len > 0 &&
+           (*xcb_input_raw_button_press_valuator_mask(&motion) & kPlaceValuators) != 0;
+}
+
+} // namespace
+
+ClientIds::ClientIds(xcb_connection_t* connection)
+    : m_base(xcb_get_setup(connection)->resource_id_base)
+    , m_mask(xcb_get_setup(connection)->resource_id_mask) {}
+
+PointerState pointerState(xcb_connection_t* connection) {
+    const XcbOwned<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(
+        connection, xcb_query_pointer(connection, rootWindow(connection)), nullptr));
+    if (!reply) {
+        return {};
+    }
+    return {reply->root_x, reply->root_y, (reply->mask & kButtonBits) != 0, reply->child};
+}
+
+std::unique_ptr<RawPointerEvents> RawPointerEvents::listen(const std::string& display) {
+    Connection connection(xcb_connect(display.c_str(), nullptr));
+    if (xcb_connection_has_error(connection.get()) != 0) {
+        return nullptr;
+    }
+    const auto extension = inputExtension(connection.get());
+    if (!extension || !selectRawEvents(connection.get(), rootWindow(connection.get()))) {
+        return nullptr;
+    }
+    return std::unique_ptr<RawPointerEvents>(
+        new RawPointerEvents(std::move(connection), *extension));
+}
+
+RawPointerEvents::RawPointerEvents(Connection connection, std::uint8_t extension)
+    : m_connection(std::move(connection))
+    , m_extension(extension) {}
+
+void RawPointerEvents::take(std::vector<RawPointerEvent>& events) {
+    while (const XcbOwned<xcb_generic_event_t> event{xcb_poll_for_event(m_connection.get())}) {
+        note(*event, events);
+    }
+}
+
+void RawPointerEvents::note(const xcb_generic_event_t& event,
+                            std::vector<RawPointerEvent>& events) const {
+    if (eventType(event) != XCB_GE_GENERIC ||
+        eventAs<xcb_ge_generic_event_t>(event).extension != m_extension) {
+        return;
+    }
+    switch (eventAs<xcb_ge_generic_event_t>(event).event_type) {
+    case XCB_INPUT_RAW_MOTION: {
+        const RawPointerEvent motion{RawPointerEvent::Kind::motion};
+        const bool isKnown = !events.empty() && events.back() == motion;
+        if (!isKnown && changesPlace(eventAs<xcb_input_raw_motion_event_t>(event))) {
+            events.push_back(motion);
+        }
+        break;
+    }
+    case XCB_INPUT_RAW_BUTTON_PRESS: {
+        const std::uint8_t button =
+            mappedButton(eventAs<xcb_input_raw_button_press_event_t>(event).detail);
+        const bool isWheel = button >= kFirstWheelButton && button <= kLastWheelButton;
+        if (button != 0 && !isWheel) {
+            events.push_back({RawPointerEvent::Kind::press, button});
+        }
+        break;
+    }
+    default:
+        break;
+    }
+}
+
+std::uint8_t RawPointerEvents::mappedButton(std::uint32_t physicalButton) const {
+    const XcbOwned<xcb_get_pointer_mapping_reply_t> mapping(xcb_get_pointer_mapping_reply(
+        m_connection.get(), xcb_get_pointer_mapping(m_connection.get()), nullptr));
+    if (!mapping || physicalButton < 1 || physicalButton > mapping->map_len) {
+        return static_cast<std::uint8_t>(physicalButton);
+    }
+    return xcb_get_pointer_mapping_map(mapping.get())[physicalButton - 1];
+}
+
+bool RawPointerEvents::goesTo(const ClientIds& client, const PointerState& pointer) const {
+    for (xcb_window_t window = pointer.topWindow; window != noWindow;) {
+        if (client.contains(window)) {
+            return true;
+        }
+        // The window may go at any time; then there is nothing further down.
+        const XcbOwned<xcb_query_pointer_reply_t> inside(xcb_query_pointer_reply(
+            m_connection.get(), xcb_query_pointer(m_connection.get(), window), nullptr));
+        window = inside ? inside->child : noWindow;
+    }
+    return false;
+}
+
+} // namespace quillon::desktop
