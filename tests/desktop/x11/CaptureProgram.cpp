@@ -12,6 +12,7 @@ void FrameReceiver::streamDidOutputSampleBuffer(SCStream& stream,
                                                 SCStreamOutputType /*type*/) {
     ++frames;
     lastFrame = CMSampleBufferGetImageBuffer(sampleBuffer);
+    lastFrame->read({0, 0, 1, 1});
     if (onFrame) {
         onFrame(stream);
     }

@@ -13,7 +13,8 @@
 
 namespace quillon::test {
 
-/// Takes the frames of a stream and hears of its end.
+/// Takes the frames of a stream, looks at a pixel of each, and hears of the end of the stream. With
+/// the look the server has got everything that the frame had to say, and a change after it is new.
 class FrameReceiver : public SCStreamOutput, public SCStreamDelegate {
 public:
     void streamDidOutputSampleBuffer(SCStream& stream, const CMSampleBuffer& sampleBuffer,
@@ -23,7 +24,7 @@ public:
     int frames = 0;
     std::shared_ptr<const CVImageBuffer> lastFrame;
     std::vector<CaptureError> errors;
-    /// Called with each frame.
+    /// Called with each frame, after the look.
     std::function<void(SCStream& stream)> onFrame;
 };
 
