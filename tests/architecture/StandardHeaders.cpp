@@ -7,6 +7,7 @@ const std::set<std::string>& standardHeaders() {
         "algorithm",
         "any",
         "array",
+        "charconv",
         "chrono",
         "cmath",
         "cstddef",
