@@ -7,12 +7,24 @@
 namespace quillon {
 
 SpotlightManager& SpotlightManager::shared() {
-    return Host::current().shared<SpotlightManager>(
-        [] { return std::shared_ptr<SpotlightManager>(new SpotlightManager()); });
+    return Host::current().shared<SpotlightManager>([] {
+        const std::shared_ptr<SpotlightManager> manager(new SpotlightManager());
+        // A stream under way holds the manager, through its delegate, and may outlive the host.
+        return std::shared_ptr<SpotlightManager>(
+            manager.get(), [manager](SpotlightManager* instance) { instance->letGo(); });
+    });
 }
 
 SpotlightManager::SpotlightManager() {
     setupSettingsObserver();
+}
+
+void SpotlightManager::letGo() {
+    m_settingsObservers.clear();
+    m_screenCaptureStream = nullptr;
+    m_zoomStreamOutput = nullptr;
+    setZoomWindow(nullptr);
+    m_spotlightWindow = nullptr;
 }
 
 void SpotlightManager::setupSettingsObserver() {
@@ -21,10 +33,38 @@ void SpotlightManager::setupSettingsObserver() {
         [this](double intensity) { spotlightIntensity = intensity; }));
     m_settingsObservers.push_back(
         settings.spotlightRadius.sink([this](CGFloat radius) { spotlightRadius = radius; }));
+    m_settingsObservers.push_back(settings.magnificationFactor.sink(
+        [this](MagnificationFactor magnification) { magnificationFactor = magnification; }));
 }
+
+void SpotlightManager::updateSettings(const SettingsUpdate& update) {
+    const auto assign = [](auto& property, const auto& value) {
+        if (value) {
+            property = *value;
+        }
+    };
+    auto& settings = AppSettings::shared();
+    assign(spotlightIntensity, update.intensity);
+    assign(spotlightRadius, update.radius);
+    assign(magnificationFactor, update.magnification);
+    assign(settings.zoomWindowSize, update.zoomWindowSize);
+    assign(settings.zoomWindowOffsetX, update.zoomWindowOffsetX);
+    assign(settings.zoomWindowOffsetY, update.zoomWindowOffsetY);
+    assign(settings.showZoomCrosshair, update.showZoomCrosshair);
+}
+
+// The spotlight.
 
 void SpotlightManager::toggleSpotlight() {
     isSpotlightEnabled = !isSpotlightEnabled;
+}
+
+void SpotlightManager::spotlightSwitched() {
+    if (isSpotlightEnabled) {
+        startSpotlight();
+    } else {
+        stopSpotlight();
+    }
 }
 
 void SpotlightManager::startSpotlight() {
@@ -62,6 +102,8 @@ void SpotlightManager::updateSpotlightAppearance() {
          spotlightIntensity});
 }
 
+// The pointer.
+
 void SpotlightManager::startCursorTracking() {
     if (m_eventMonitor) {
         return;
@@ -75,7 +117,7 @@ void SpotlightManager::startCursorTracking() {
 }
 
 void SpotlightManager::stopCursorTrackingIfNeeded() {
-    if (isSpotlightEnabled || !m_eventMonitor) {
+    if (isSpotlightEnabled || isZoomEnabled || !m_eventMonitor) {
         return;
     }
     Host::current().eventMonitors().removeMonitor(*m_eventMonitor);
@@ -84,9 +126,12 @@ void SpotlightManager::stopCursorTrackingIfNeeded() {
 
 void SpotlightManager::updateCursorLocation(CGPoint location) {
     m_currentCursorLocation = location;
-    Host::current().mainQueue().async(m_lifetime.guard([this] {
+    Host::current().mainQueue().async(m_lifetime.guard([this, location] {
         if (isSpotlightEnabled) {
             updateSpotlightAppearance();
+        }
+        if (isZoomEnabled) {
+            updateZoomPosition(location);
         }
     }));
 }

@@ -1,0 +1,34 @@
+#include "spotlight/ZoomWindow.h"
+
+#include "model/AppSettings.h"
+#include "spotlight/ZoomView.h"
+
+#include <memory>
+
+namespace quillon {
+
+ZoomWindow::ZoomWindow(const CGRect& frame, CGFloat magnification)
+    : Window(frame, WindowStyleMask::borderless, BackingStoreType::buffered,
+             /*defersCreation=*/false)
+    , m_magnification(magnification) {
+    setOpaque(true);
+    setBackgroundColor(Color::black);
+    setLevel(NSFloatingWindowLevel);
+    setCollectionBehavior(NSWindowCollectionBehavior::canJoinAllSpaces |
+                          NSWindowCollectionBehavior::fullScreenAuxiliary |
+                          NSWindowCollectionBehavior::ignoresCycle);
+    setIgnoresMouseEvents(true);
+    setHasShadow(true);
+    setContentView(std::make_shared<HostingView>(std::make_unique<ZoomView>(
+        ZoomView::Value{magnification, std::nullopt, AppSettings::shared().showZoomCrosshair})));
+}
+
+void ZoomWindow::updateImage(const NSImage& image) {
+    m_currentImage = image;
+    auto* view = contentView() ? dynamic_cast<ZoomView*>(contentView()->rootView.get()) : nullptr;
+    if (view) {
+        view->setValue({m_magnification, image, AppSettings::shared().showZoomCrosshair});
+    }
+}
+
+} // namespace quillon
