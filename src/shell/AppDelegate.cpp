@@ -228,7 +228,11 @@ void AppDelegate::toggleSpotlight() {
     AppSettings::shared().isSpotlightEnabled = manager.isSpotlightEnabled;
 }
 
-void AppDelegate::toggleZoom() {}
+void AppDelegate::toggleZoom() {
+    auto& manager = SpotlightManager::shared();
+    manager.toggleZoom();
+    AppSettings::shared().isZoomEnabled = manager.isZoomEnabled;
+}
 
 void AppDelegate::openSettings() {}
 

@@ -52,4 +52,33 @@ TEST_F(AppDelegateSpotlightTest, the_end_leaves_the_spotlight_as_it_is) {
     EXPECT_TRUE(SpotlightManager::shared().isSpotlightEnabled);
 }
 
+// The lens.
+
+TEST_F(AppDelegateSpotlightTest, a_launch_leaves_the_lens_off_whatever_is_stored) {
+    settings().isZoomEnabled = true;
+    launch();
+    EXPECT_FALSE(SpotlightManager::shared().isZoomEnabled);
+    EXPECT_TRUE(settings().isZoomEnabled);
+    EXPECT_EQ(host.screenCapture.probes.count(), 0U);
+}
+
+TEST_F(AppDelegateSpotlightTest, the_shortcut_of_the_lens_stores_what_the_manager_reports) {
+    settings().isZoomEnabled = true;
+    launch();
+    post(NotificationName::toggleZoom);
+    EXPECT_TRUE(SpotlightManager::shared().isZoomEnabled);
+    EXPECT_TRUE(settings().isZoomEnabled);
+    EXPECT_EQ(host.screenCapture.probes.count(), 1U);
+    post(NotificationName::toggleZoom);
+    EXPECT_FALSE(SpotlightManager::shared().isZoomEnabled);
+    EXPECT_FALSE(settings().isZoomEnabled);
+}
+
+TEST_F(AppDelegateSpotlightTest, the_menu_switches_the_lens_at_once) {
+    launch();
+    EXPECT_TRUE(delegate->perform("toggleZoom"));
+    EXPECT_TRUE(SpotlightManager::shared().isZoomEnabled);
+    EXPECT_TRUE(settings().isZoomEnabled);
+}
+
 } // namespace quillon::test
