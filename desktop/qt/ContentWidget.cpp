@@ -128,6 +128,9 @@ void ContentWidget::putOnScreen(const QRegion& region) {
 }
 
 void ContentWidget::paintContent(QPainter& painter, const QRect& rect) {
+    if (m_backgroundColor.isValid()) {
+        painter.fillRect(rect, m_backgroundColor);
+    }
     QtGraphicsContext context(painter, fromQRectF(rect), devicePixelRatio());
     m_content->rootView->paint(context, fromQRectF(rect));
 }

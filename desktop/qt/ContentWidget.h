@@ -3,6 +3,7 @@
 #include "desktop/qt/InkMask.h"
 #include "platform/Window.h"
 
+#include <QColor>
 #include <QElapsedTimer>
 #include <QWidget>
 
@@ -26,6 +27,9 @@ public:
     ~ContentWidget() override;
 
     void setContentView(const std::shared_ptr<HostingView>& view);
+
+    /// What lies behind the picture; nothing unless it is set.
+    void setBackgroundColor(const QColor& color) { m_backgroundColor = color; }
 
     /// Without a compositor the outline of the picture is kept, so that the window can take it and
     /// the rest of the screen stays to be seen.
@@ -66,6 +70,7 @@ private:
 
     std::function<void()> m_onPress;
     std::shared_ptr<HostingView> m_content;
+    QColor m_backgroundColor;
     std::unique_ptr<TextFieldWidget> m_textField;
     std::optional<InkMask> m_inkMask;
     bool m_isUpdatePending = false;

@@ -1,6 +1,7 @@
 #include "desktop/qt/QtWindow.h"
 
 #include "desktop/qt/GlobalCoordinates.h"
+#include "desktop/qt/QtConversions.h"
 #include "desktop/x11/Compositor.h"
 #include "desktop/x11/WindowShape.h"
 
@@ -54,6 +55,9 @@ void QtWindow::setContentView(const std::shared_ptr<HostingView>& view) {
 }
 
 void QtWindow::orderFrontRegardless() {
+    if (m_window.isOpaque()) {
+        m_widget.setBackgroundColor(toQColor(m_window.backgroundColor()));
+    }
     m_widget.show();
     m_widget.raise();
     followCompositor();

@@ -27,9 +27,6 @@ public:
     void setValue(const Value& value);
 
     void layout(CGSize size, CGFloat scale) override;
-    void mouseDown(CGPoint /*location*/) override {}
-    void mouseDragged(CGPoint /*location*/) override {}
-    void mouseUp(CGPoint /*location*/) override {}
     Damage takeDamage() override;
     void paint(GraphicsContext& context, const CGRect& rect) override;
 

@@ -197,9 +197,6 @@ TEST_F(SpotlightManagerTest, settings_changed_while_it_is_off_are_seen_when_it_c
 TEST_F(SpotlightManagerTest, a_content_of_another_kind_is_left_alone) {
     struct PlainView : ContentView {
         void layout(CGSize, CGFloat) override {}
-        void mouseDown(CGPoint) override {}
-        void mouseDragged(CGPoint) override {}
-        void mouseUp(CGPoint) override {}
         Damage takeDamage() override { return {}; }
         void paint(GraphicsContext&, const CGRect&) override {}
     };
