@@ -272,7 +272,9 @@ TEST_F(CanvasText, a_press_opens_a_field_of_200_points_in_24_with_its_centre_the
 TEST_F(CanvasText, the_field_that_appeared_brings_the_overlay_forward_and_takes_the_keyboard) {
     Window other({0, 0, 1, 1}, WindowStyleMask::borderless, BackingStoreType::buffered, false);
     Window overlay({0, 0, 1, 1}, WindowStyleMask::borderless, BackingStoreType::buffered, false);
+    Window second({0, 0, 1, 1}, WindowStyleMask::borderless, BackingStoreType::buffered, false);
     overlay.setIdentifier(std::string(overlayWindowIdentifier));
+    second.setIdentifier(std::string(overlayWindowIdentifier));
     canvas.mouseDown({70, 80});
     canvas.textField()->onAppear();
     EXPECT_EQ(host.application.activations, 0);
@@ -282,6 +284,7 @@ TEST_F(CanvasText, the_field_that_appeared_brings_the_overlay_forward_and_takes_
     EXPECT_EQ(host.windows.calls.back(), "makeKeyAndOrderFront");
     EXPECT_TRUE(overlay.isVisible());
     EXPECT_FALSE(other.isVisible());
+    EXPECT_FALSE(second.isVisible()) << "the first overlay window is the one";
     EXPECT_TRUE(canvas.isTextFieldFocused());
 }
 

@@ -393,6 +393,31 @@ TEST_F(AutoErase, the_setting_switched_off_afterwards_leaves_the_old_deadline) {
     EXPECT_TRUE(state().strokes->empty());
 }
 
+TEST_F(AutoErase, clearing_and_leaving_annotation_leave_the_old_deadline) {
+    drag({10, 10}, {50, 50});
+    post(NotificationName::clearAnnotations);
+    settings().isAnnotationEnabled = false;
+    update();
+    state().undo();
+    ASSERT_EQ(state().strokes->size(), 1U);
+    host.mainQueue.advance(2.1);
+    EXPECT_TRUE(state().strokes->empty());
+    EXPECT_FALSE(state().canRedo());
+}
+
+TEST_F(AutoErase, a_text_and_a_highlighter_stroke_have_deadlines_too) {
+    settings().selectedTool = DrawingTool::highlighter;
+    drag({10, 10}, {50, 50});
+    settings().selectedTool = DrawingTool::text;
+    overlay.mouseDown({100, 100});
+    overlay.mouseUp({100, 100});
+    overlay.textField()->text.set("short");
+    overlay.textField()->onSubmit();
+    ASSERT_EQ(state().strokes->size(), 2U);
+    host.mainQueue.advance(2.1);
+    EXPECT_TRUE(state().strokes->empty());
+}
+
 TEST_F(AutoErase, the_eraser_gets_no_task) {
     settings().selectedTool = DrawingTool::eraser;
     drag({10, 10}, {50, 50});
