@@ -1,0 +1,70 @@
+#include "annotation/OverlayTest.h"
+
+#include <gtest/gtest.h>
+
+namespace quillon::test {
+namespace {
+
+class OverlayDamage : public OverlayTest {};
+
+TEST_F(OverlayDamage, nothing_changed_is_nothing_to_paint) {
+    annotate();
+    drag({10, 10}, {50, 50});
+    update();
+    EXPECT_TRUE(update().isEmpty());
+}
+
+TEST_F(OverlayDamage, a_change_asks_for_an_update) {
+    annotate();
+    const int before = updateRequests;
+    overlay.mouseDown({10, 10});
+    EXPECT_GT(updateRequests, before);
+}
+
+TEST_F(OverlayDamage, an_undo_damages_only_what_it_took) {
+    annotate();
+    drag({10, 10}, {50, 50});
+    drag({500, 500}, {550, 550});
+    update();
+    state().undo();
+    const Damage damage = update();
+    EXPECT_TRUE(damage.intersects({520, 520, 10, 10}));
+    EXPECT_FALSE(damage.intersects({0, 0, 100, 100}));
+}
+
+TEST_F(OverlayDamage, a_picture_asked_for_before_the_update_shows_the_stroke_as_it_now_is) {
+    annotate();
+    overlay.mouseDown({10, 10});
+    for (int step = 1; step <= 200; ++step) {
+        overlay.mouseDragged({10.0 + step, 10});
+    }
+    update();
+    overlay.mouseDragged({10, 10});
+    EXPECT_TRUE(painted().empty()) << "a stroke of one point has no picture";
+    overlay.mouseDragged({10, 60});
+    const auto drawings = painted();
+    ASSERT_EQ(drawings.size(), 1U);
+    EXPECT_EQ(drawings[0].path.points(), (std::vector<CGPoint>{{10, 10}, {10, 60}}));
+}
+
+TEST_F(OverlayDamage, what_a_picture_brought_forward_is_still_owed_by_the_update) {
+    annotate();
+    overlay.mouseDown({10, 10});
+    overlay.mouseDragged({100, 10});
+    update();
+    overlay.mouseDragged({100, 300});
+    painted();
+    state().cancelCurrentStroke();
+    painted();
+    const Damage damage = update();
+    EXPECT_TRUE(damage.intersects({50, 9, 1, 1}));
+    EXPECT_TRUE(damage.intersects({100, 299, 1, 1}));
+}
+
+TEST_F(OverlayDamage, a_new_size_paints_everything) {
+    overlay.layout({300, 200}, 2);
+    EXPECT_EQ(update().bounds(), (CGRect{0, 0, 300, 200}));
+}
+
+} // namespace
+} // namespace quillon::test
