@@ -55,6 +55,12 @@ double QtMainQueue::now() const {
     return std::chrono::duration<double>(sinceStart).count();
 }
 
+void QtMainQueue::clear() {
+    m_timer.stop();
+    m_delayed.clear();
+    QCoreApplication::removePostedEvents(this, WorkEvent::kind());
+}
+
 bool QtMainQueue::event(QEvent* event) {
     if (event->type() == WorkEvent::kind()) {
         static_cast<WorkEvent*>(event)->work();

@@ -21,6 +21,7 @@ public:
     void async(Work work) override;
     void asyncAfter(double seconds, Work work) override;
     double now() const override;
+    void clear() override;
 
 protected:
     bool event(QEvent* event) override;

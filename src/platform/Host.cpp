@@ -19,6 +19,8 @@ Host::Host(const Ports& ports)
 }
 
 Host::~Host() {
+    // Work may hold windows, which end with the host that showed them.
+    mainQueue().clear();
     while (!m_sharedInstances.empty()) {
         m_sharedInstances.pop_back();
     }

@@ -26,7 +26,7 @@ namespace quillon {
 ///
 /// Exactly one host is installed while anything of the system lives. The host holds the shared
 /// instances, so that a fresh host starts from nothing; they go in the reverse order of their
-/// making, before the ports that they use.
+/// making, after the work that is still pending and before the ports that they use.
 class Host {
 public:
     /// What a host is made of. Every port outlives the host.

@@ -8,8 +8,8 @@ namespace quillon {
 ///
 /// Work handed in with `async` runs in a later turn of the loop, in the order in which it was
 /// handed in; work of `asyncAfter` runs once its delay is over, earlier deadlines first. Nothing
-/// runs inside the call itself. Work cannot be taken back. Work that is pending when the queue ends
-/// is dropped.
+/// runs inside the call itself. No single piece can be taken back. Work that is pending when the
+/// queue ends is dropped.
 class MainQueue {
 public:
     using Work = std::function<void()>;
@@ -21,6 +21,8 @@ public:
     virtual void asyncAfter(double seconds, Work work) = 0;
     /// Seconds on a steady clock; only differences carry meaning.
     virtual double now() const = 0;
+    /// Drops all work that is pending, together with whatever it holds.
+    virtual void clear() = 0;
 };
 
 } // namespace quillon

@@ -116,4 +116,16 @@ TEST(HostDeathTest, a_second_host_ends_the_program) {
     EXPECT_DEATH(FakeHost(), "quillon-mark: a second host was installed");
 }
 
+TEST(Host, pending_work_ends_with_the_host_together_with_the_windows_it_holds) {
+    FakePorts fakes;
+    {
+        const Host host(fakes.ports());
+        const auto window = std::make_shared<Window>(
+            CGRect{0, 0, 1, 1}, WindowStyleMask::borderless, BackingStoreType::buffered, false);
+        fakes.mainQueue.asyncAfter(1, [window] { window->close(); });
+    }
+    EXPECT_TRUE(fakes.mainQueue.isIdle());
+    EXPECT_TRUE(fakes.application.windows().empty());
+}
+
 } // namespace quillon::test

@@ -20,6 +20,8 @@ public:
 
     double now() const override { return m_now; }
 
+    void clear() override { m_pending.clear(); }
+
     bool isIdle() const { return m_pending.empty(); }
 
     /// Runs what was due when the call began; what that hands in waits for a later turn.

@@ -137,4 +137,21 @@ TEST(QtMainQueue, its_clock_never_runs_backward) {
     EXPECT_GE(queue.now(), first);
 }
 
+TEST(QtMainQueue, cleared_it_drops_what_is_pending_and_takes_new_work) {
+    QtMainQueue queue;
+    std::string ran;
+    const auto held = std::make_shared<int>();
+    queue.async([&, held] { ran += '1'; });
+    queue.asyncAfter(moment, [&, held] { ran += '2'; });
+    queue.clear();
+    EXPECT_EQ(held.use_count(), 1);
+    Loop loop;
+    queue.asyncAfter(2 * moment, [&] {
+        ran += '3';
+        loop.end();
+    });
+    loop.run();
+    EXPECT_EQ(ran, "3");
+}
+
 } // namespace quillon::test
