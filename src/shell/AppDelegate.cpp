@@ -1,5 +1,6 @@
 #include "shell/AppDelegate.h"
 
+#include "cursor/CursorHighlightManager.h"
 #include "foundation/FatalError.h"
 #include "model/AppSettings.h"
 #include "model/NotificationNames.h"
@@ -73,11 +74,13 @@ void AppDelegate::applicationDidFinishLaunching() {
     observeAnnotationSettings();
     setupHotkeys();
     observeHotkeySettings();
+    CursorHighlightManager::shared();
     SpotlightManager::shared();
     sweepWindows();
 }
 
 void AppDelegate::applicationWillTerminate() {
+    CursorHighlightManager::shared().stopTracking();
     HotkeyManager::shared().unregisterAllHotkeys();
     HotkeyManager::shared().stopListening();
 }
@@ -220,7 +223,12 @@ void AppDelegate::toggleWhiteboard() {
     m_overlayWindow->clearAnnotations();
 }
 
-void AppDelegate::toggleCursorHalo() {}
+void AppDelegate::toggleCursorHalo() {
+    auto& isStoredAsOn = AppSettings::shared().isCursorHaloEnabled;
+    const bool next = !isStoredAsOn;
+    isStoredAsOn = next;
+    CursorHighlightManager::shared().isEnabled = next;
+}
 
 void AppDelegate::toggleSpotlight() {
     auto& manager = SpotlightManager::shared();

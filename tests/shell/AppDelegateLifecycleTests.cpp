@@ -1,3 +1,4 @@
+#include "cursor/CursorHighlightManager.h"
 #include "model/NotificationNames.h"
 #include "shell/ShellTest.h"
 #include "shortcuts/HotkeyManager.h"
@@ -87,6 +88,16 @@ struct JournalHotKeys : FakeHotKeys {
     Journal& journal;
 };
 
+struct JournalEventMonitors : FakeEventMonitors {
+    explicit JournalEventMonitors(Journal& newJournal)
+        : journal(newJournal) {}
+    void removeMonitor(EventMonitorToken token) override {
+        note(journal, "stopTracking");
+        FakeEventMonitors::removeMonitor(token);
+    }
+    Journal& journal;
+};
+
 /// A window with an owner that the sweep can find.
 class SceneWindow : public Window {
 public:
@@ -119,6 +130,7 @@ TEST(AppDelegateOrder, start_up_and_shut_down_take_their_steps_in_order) {
     JournalApplication application(journal);
     JournalHotKeys hotKeys(journal);
     JournalStatusBar statusBar(journal);
+    JournalEventMonitors eventMonitors(journal);
     FakePorts fakes;
     Host::Ports ports = fakes.ports();
     ports.mainQueue = mainQueue;
@@ -126,15 +138,17 @@ TEST(AppDelegateOrder, start_up_and_shut_down_take_their_steps_in_order) {
     ports.application = application;
     ports.hotKeys = hotKeys;
     ports.statusBar = statusBar;
+    ports.eventMonitors = eventMonitors;
     const Host host(ports);
     AppDelegate delegate;
 
     delegate.applicationDidFinishLaunching();
     EXPECT_EQ(journal,
               (Journal{"policy", "settings", "statusItem", "storedMode", "register", "listen"}));
+    CursorHighlightManager::shared().isEnabled = true;
     journal.clear();
     delegate.applicationWillTerminate();
-    EXPECT_EQ(journal, (Journal{"unregister", "deafen"}));
+    EXPECT_EQ(journal, (Journal{"stopTracking", "unregister", "deafen"}));
 }
 
 TEST_F(AppDelegateLifecycleTest, the_program_is_an_accessory) {
