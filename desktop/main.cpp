@@ -12,6 +12,7 @@
 #include "desktop/qt/UnixSignals.h"
 #include "desktop/qt/X11EventFilter.h"
 #include "desktop/storage/SqliteDefaults.h"
+#include "desktop/x11/GrabbedKeyboard.h"
 #include "desktop/x11/Monitors.h"
 #include "desktop/x11/SingleInstance.h"
 #include "desktop/x11/X11HotKeys.h"
@@ -79,6 +80,8 @@ int run(QApplication& application, xcb_connection_t* connection) {
                       [&](const std::string& name) { return monitorNumbers.numberOf(name); });
     X11HotKeys hotKeys(connection, root);
     X11EventFilter events;
+    // The toolkit would take a shortcut held down for a loss of the keyboard, and end text entry.
+    const auto grabEvents = events.addHandler(tellsOfKeyboardGrab);
     QtStatusBar statusBar(events, connection, system);
     QtImages images;
     QtGraphics graphics;

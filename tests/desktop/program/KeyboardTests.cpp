@@ -101,6 +101,14 @@ TEST_F(Keyboard, a_click_elsewhere_commits_the_text_and_opens_no_other_field) {
     EXPECT_TRUE(showsBackground({600, 400}));
 }
 
+TEST_F(Keyboard, text_is_committed_when_another_window_takes_the_keyboard) {
+    openFieldAt({300, 200});
+    input.type("Hill");
+    below.activate();
+    EXPECT_TRUE(showsText({300, 200}));
+    EXPECT_TRUE(showsBackground({280, 200}));
+}
+
 TEST_F(Keyboard, an_empty_field_leaves_nothing) {
     openFieldAt({300, 200});
     input.tap("Return");
@@ -127,6 +135,33 @@ TEST_F(Keyboard, clear_drops_the_text_that_is_being_typed) {
     clear();
     EXPECT_TRUE(showsBackground({300, 200}));
     EXPECT_TRUE(showsBackground({306, 212}));
+}
+
+TEST_F(Keyboard, a_shortcut_held_for_long_leaves_the_text_that_is_being_typed) {
+    openFieldAt({300, 200});
+    input.type("Hi");
+    input.moveTo({700, 500});
+    const int before = below.keyCount();
+    input.keyDown("Super_L");
+    input.keyDown("Shift_L");
+    input.keyDown("h");
+    EXPECT_TRUE(stays(
+        [this] {
+            return screen.pixel({380, 200}).red > 200;
+        },
+        std::chrono::milliseconds(800)));
+    input.keyUp("h");
+    input.keyUp("Shift_L");
+    input.keyUp("Super_L");
+    input.type("ll");
+    EXPECT_TRUE(stays(
+        [this] {
+            return screen.pixel({380, 200}).red > 200;
+        },
+        std::chrono::milliseconds(300)));
+    EXPECT_EQ(below.keyCount(), before);
+    input.tap("Return");
+    EXPECT_TRUE(showsText({300, 200}));
 }
 
 TEST_F(Keyboard, a_held_shortcut_fires_once) {
