@@ -1,5 +1,6 @@
 #include "desktop/qt/ContentWidget.h"
 
+#include "desktop/qt/ControlsWidget.h"
 #include "desktop/qt/QtConversions.h"
 #include "desktop/qt/QtGraphicsContext.h"
 #include "desktop/qt/TextFieldWidget.h"
@@ -203,6 +204,7 @@ void ContentWidget::updateContent() {
     }
     const QRegion region = regionOf(m_content->rootView->takeDamage());
     updateTextField();
+    updateControls();
     if (!region.isEmpty() && isVisible()) {
         putOnScreen(region);
     }
@@ -225,6 +227,33 @@ void ContentWidget::updateTextField() {
     if (onEditingChanged && stood != isEditingText()) {
         onEditingChanged();
     }
+}
+
+void ContentWidget::updateControls() {
+    const auto placed = m_content->rootView->placedControls();
+    if (m_controls && (!placed || placed->view.get() != m_controls->view())) {
+        m_controls.reset();
+    }
+    if (placed && !m_controls) {
+        showControls(placed->view);
+    }
+    if (placed) {
+        m_controls->place(toQPointF(placed->center));
+    }
+}
+
+void ContentWidget::showControls(const std::shared_ptr<ControlView>& view) {
+    m_controls = ControlsWidget::make(view, *this);
+    m_controls->bodyDrag = {
+        .pressed =
+            [this](QPointF place) { m_content->rootView->controlsMouseDown(fromQPointF(place)); },
+        .moved =
+            [this](QPointF place) {
+                m_content->rootView->controlsMouseDragged(fromQPointF(place));
+            },
+        .released =
+            [this](QPointF place) { m_content->rootView->controlsMouseUp(fromQPointF(place)); },
+    };
 }
 
 void ContentWidget::layoutContent() {

@@ -13,6 +13,7 @@
 
 namespace quillon::desktop {
 
+class ControlsWidget;
 class TextFieldWidget;
 
 /// Shows a content view: hands it the pointer, paints its damage, and lets its text field stand.
@@ -20,7 +21,7 @@ class TextFieldWidget;
 /// One update, some time after the view asked for it and after all input that has arrived by then:
 /// 1. the view says where its picture has changed;
 /// 2. that part is painted and put on the screen at once;
-/// 3. the text field comes, goes or changes as the view says.
+/// 3. the text field and the controls come, go or change as the view says.
 class ContentWidget : public QWidget {
 public:
     explicit ContentWidget(std::function<void()> onPress);
@@ -59,6 +60,8 @@ private:
     void updateAtOnceIfQuiet();
     void updateContent();
     void updateTextField();
+    void updateControls();
+    void showControls(const std::shared_ptr<ControlView>& view);
     void layoutContent();
     QRegion regionOf(const Damage& damage) const;
     /// Paints the region and puts it on the screen at once.
@@ -72,6 +75,7 @@ private:
     std::shared_ptr<HostingView> m_content;
     QColor m_backgroundColor;
     std::unique_ptr<TextFieldWidget> m_textField;
+    std::unique_ptr<ControlsWidget> m_controls;
     std::optional<InkMask> m_inkMask;
     bool m_isUpdatePending = false;
     QElapsedTimer m_sinceLastUpdate;

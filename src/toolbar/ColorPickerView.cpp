@@ -74,9 +74,6 @@ void ColorPickerView::change(const std::function<void(Numbers&)>& change) {
             numberChanged();
         }
     }
-    if (before != m_numbers) {
-        changed.send();
-    }
 }
 
 void ColorPickerView::numberChanged() {

@@ -3,7 +3,6 @@
 #include "foundation/Binding.h"
 #include "foundation/Color.h"
 #include "foundation/Geometry.h"
-#include "foundation/Subject.h"
 #include "toolbar/HueSaturationPicker.h"
 
 #include <cstddef>
@@ -53,9 +52,6 @@ public:
 
     ColorPickerView(Binding<Color> selectedColor, Binding<std::vector<Color>> quickColors);
     ColorPickerView(const ColorPickerView&) = delete;
-
-    /// Sent when one of the four numbers has changed.
-    Subject<> changed;
 
     void appeared();
     /// Looks whether somebody else has changed the shared colour.

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/SemanticColor.h"
+
+#include <QColor>
+#include <QFont>
+#include <QPalette>
+#include <QPixmap>
+
+#include <string>
+
+/// How the program's own controls look, light or dark as the desktop is.
+namespace quillon::desktop {
+
+bool isDark(const QPalette& palette);
+
+QColor toQColor(const SemanticColor& color, const QPalette& palette);
+
+/// The translucent material of panels that float over the screen: legible over white, black and
+/// anything between.
+QColor panelMaterial(const QPalette& palette);
+/// The nearly opaque material of menus and popovers, which are read at leisure.
+QColor popupMaterial(const QPalette& palette);
+/// The line round a panel or a popup.
+QColor hairline(const QPalette& palette);
+
+/// Text styles, in logical pixels.
+inline constexpr qreal kCaptionSize = 11;
+inline constexpr qreal kTitle2Size = 17;
+
+/// The symbol of that name in one colour, drawn for a square of `side` points at `scale` device
+/// pixels to a point. A name without a glyph gives an empty picture.
+QPixmap symbolPixmap(const std::string& name, qreal side, qreal scale, const QColor& color);
+
+} // namespace quillon::desktop

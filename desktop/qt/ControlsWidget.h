@@ -1,0 +1,57 @@
+#pragma once
+
+#include "foundation/Cancellable.h"
+#include "platform/ControlView.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+
+namespace quillon::desktop {
+
+/// The widget of a view of controls. It reads the view's description anew, one turn after the view
+/// said that it may have changed.
+class ControlsWidget : public QWidget {
+public:
+    /// The widget for that kind of view.
+    static std::unique_ptr<ControlsWidget> make(const std::shared_ptr<ControlView>& view,
+                                                QWidget& parent);
+
+    ControlsWidget(const std::shared_ptr<ControlView>& view, QWidget& parent);
+
+    const ControlView* view() const { return m_view.get(); }
+    /// `center` in the parent's coordinates.
+    void place(QPointF center);
+
+    /// A press, moves and a release beside the controls, in the parent's coordinates.
+    struct BodyDrag {
+        std::function<void(QPointF)> pressed;
+        std::function<void(QPointF)> moved;
+        std::function<void(QPointF)> released;
+    };
+    BodyDrag bodyDrag;
+
+protected:
+    bool event(QEvent* event) override;
+    /// Brings the controls in line with the description.
+    virtual void bringUpToDate() = 0;
+    /// Whether a press at that place, which met no control, is on the view's body. Any other press
+    /// goes on to what lies below.
+    virtual bool isBody(QPointF place) const = 0;
+
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    void scheduleUpdate();
+    void tell(const std::function<void(QPointF)>& listener, const QMouseEvent& event);
+
+    std::shared_ptr<ControlView> m_view;
+    bool m_isUpdatePending = false;
+    bool m_isDragging = false;
+    Cancellable m_subscription;
+};
+
+} // namespace quillon::desktop

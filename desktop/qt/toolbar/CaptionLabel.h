@@ -1,0 +1,22 @@
+#pragma once
+
+#include "desktop/qt/Appearance.h"
+#include "desktop/qt/QtConversions.h"
+
+#include <QLabel>
+
+namespace quillon::desktop {
+
+/// A small text in the secondary colour.
+class CaptionLabel : public QLabel {
+public:
+    explicit CaptionLabel(const QString& text)
+        : QLabel(text) {
+        setFont(systemFont(kCaptionSize));
+        QPalette look = palette();
+        look.setColor(QPalette::WindowText, toQColor(SemanticColor::secondary, look));
+        setPalette(look);
+    }
+};
+
+} // namespace quillon::desktop

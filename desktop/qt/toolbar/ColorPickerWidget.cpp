@@ -1,0 +1,142 @@
+#include "desktop/qt/toolbar/ColorPickerWidget.h"
+
+#include "desktop/qt/Appearance.h"
+#include "desktop/qt/QtConversions.h"
+#include "desktop/qt/toolbar/CaptionLabel.h"
+#include "desktop/qt/toolbar/HueSaturationWidget.h"
+#include "desktop/qt/toolbar/QuickColorsWidget.h"
+#include "desktop/qt/toolbar/SwatchButton.h"
+
+#include <QFontDatabase>
+#include <QPainter>
+#include <QPainterPath>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace quillon::desktop {
+
+namespace {
+
+using View = ColorPickerView;
+
+/// The current colour, in a frame.
+class CurrentColor : public QWidget {
+public:
+    explicit CurrentColor(const ColorPickerView& picker)
+        : m_picker(picker) {
+        setFixedSize(qRound(View::currentSwatchSize.width), qRound(View::currentSwatchSize.height));
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        QPainterPath figure;
+        figure.addRoundedRect(rect(), View::currentSwatchCornerRadius,
+                              View::currentSwatchCornerRadius);
+        painter.setClipPath(figure);
+        fillWithColor(painter, figure, toQColor(m_picker.selectedColor()));
+        for (const QColor& color : {hairline(palette()), toQColor(View::currentSwatchBorder)}) {
+            painter.strokePath(figure, QPen(color, 2 * View::currentSwatchBorderWidth));
+        }
+    }
+
+private:
+    const ColorPickerView& m_picker;
+};
+
+/// A thin line across.
+class Divider : public QWidget {
+public:
+    Divider() { setFixedHeight(1); }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter(this).fillRect(rect(), toQColor(SemanticColor::primary.opacity(0.12), palette()));
+    }
+};
+
+} // namespace
+
+ColorPickerWidget::ColorPickerWidget(std::unique_ptr<ColorPickerView> picker, QWidget& parent)
+    : QWidget(&parent)
+    , m_picker(std::move(picker)) {
+    m_picker->appeared();
+    setFixedWidth(qRound(FloatingToolbarView::popoverFrame.width));
+    auto* column = new QVBoxLayout(this);
+    const int padding = qRound(View::padding);
+    column->setContentsMargins(padding, padding, padding, padding);
+    column->setSpacing(qRound(View::spacing));
+
+    m_wheel = new HueSaturationWidget(m_picker->wheel(), *this);
+    m_wheel->setFixedHeight(qRound(View::wheelHeight));
+    column->addWidget(m_wheel);
+    addChannel([this] { return m_picker->brightnessChannel(); }, *column);
+    addChannel([this] { return m_picker->opacityChannel(); }, *column);
+    column->addWidget(new Divider);
+    addQuickColors(*column);
+    addCurrentColor(*column);
+    follow();
+}
+
+ColorPickerWidget::~ColorPickerWidget() = default;
+
+void ColorPickerWidget::addChannel(std::function<Channel()> channel, QVBoxLayout& column) {
+    const Channel first = channel();
+    auto* group = new QVBoxLayout;
+    group->setSpacing(qRound(View::groupSpacing));
+    auto* row = new QHBoxLayout;
+    row->addWidget(new CaptionLabel(QString::fromStdString(first.title)));
+    row->addStretch();
+    auto* percentage = new CaptionLabel({});
+    row->addWidget(percentage);
+    group->addLayout(row);
+    auto* slider = new SliderWidget({0, 1, 0}, first.value, *this);
+    slider->setAccessibleName(QString::fromStdString(first.title));
+    group->addWidget(slider);
+    column.addLayout(group);
+    m_channels.push_back({std::move(channel), percentage, slider});
+}
+
+void ColorPickerWidget::addQuickColors(QVBoxLayout& column) {
+    auto* group = new QVBoxLayout;
+    group->setSpacing(qRound(View::quickColorsSpacing));
+    group->addWidget(new CaptionLabel(View::quickColorsTitle));
+    m_quickColors = new QuickColorsWidget(*this);
+    m_quickColors->setFixedWidth(width() - 2 * qRound(View::padding));
+    group->addWidget(m_quickColors);
+    column.addLayout(group);
+}
+
+void ColorPickerWidget::addCurrentColor(QVBoxLayout& column) {
+    auto* row = new QHBoxLayout;
+    row->addWidget(new CaptionLabel(View::currentTitle));
+    row->addStretch();
+    m_current = new CurrentColor(*m_picker);
+    row->addWidget(m_current);
+    m_hex = new CaptionLabel({});
+    QFont monospaced = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    monospaced.setPixelSize(m_hex->font().pixelSize());
+    m_hex->setFont(monospaced);
+    row->addWidget(m_hex);
+    column.addLayout(row);
+}
+
+void ColorPickerWidget::follow() {
+    m_picker->followSelectedColor();
+    m_wheel->update();
+    for (const ChannelControls& controls : m_channels) {
+        const Channel channel = controls.channel();
+        controls.percentage->setText(QString::fromStdString(channel.percentage));
+        controls.slider->follow();
+        if (channel.accent) {
+            controls.slider->setAccent(toQColor(*channel.accent));
+        }
+    }
+    m_quickColors->follow(m_picker->quickColorCells());
+    m_current->update();
+    m_hex->setText(QString::fromStdString(m_picker->selectedHex()));
+}
+
+} // namespace quillon::desktop

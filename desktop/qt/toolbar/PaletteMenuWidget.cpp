@@ -1,0 +1,128 @@
+#include "desktop/qt/toolbar/PaletteMenuWidget.h"
+
+#include "desktop/qt/Appearance.h"
+#include "desktop/qt/QtImages.h"
+#include "desktop/qt/SliderWidget.h"
+#include "desktop/qt/toolbar/CaptionLabel.h"
+#include "desktop/qt/toolbar/PresetButton.h"
+#include "desktop/qt/toolbar/SwatchButton.h"
+
+#include <QGridLayout>
+#include <QVBoxLayout>
+#include <QWidgetAction>
+
+#include <utility>
+
+namespace quillon::desktop {
+
+namespace {
+
+/// The colours of a section stand in rows of this many.
+constexpr int kColumns = 7;
+constexpr int kSectionMargin = 8;
+
+QIcon symbolIcon(const std::string& symbol) {
+    return QtImages::icon({Image::Kind::symbol, symbol, {}, {}}, SymbolTint::foreground);
+}
+
+} // namespace
+
+PaletteMenuWidget::PaletteMenuWidget(const PaletteMenu& menu, QWidget& parent)
+    : PopupMenu(parent) {
+    std::visit([this](const auto& kind) { build(kind); }, menu);
+}
+
+std::function<void()> PaletteMenuWidget::choosing(std::function<void()> action) {
+    return [this, action = std::move(action)] {
+        close();
+        action();
+    };
+}
+
+void PaletteMenuWidget::addWidget(QWidget* widget) {
+    auto* entry = new QWidgetAction(this);
+    entry->setDefaultWidget(widget);
+    addAction(entry);
+}
+
+void PaletteMenuWidget::build(const ToolMenu& menu) {
+    for (const ToolMenuEntry& entry : menu.entries) {
+        QAction* action = addAction(symbolIcon(entry.icon), QString::fromStdString(entry.label));
+        action->setCheckable(true);
+        action->setChecked(entry.hasCheckmark);
+        connect(action, &QAction::triggered, this, entry.action);
+    }
+}
+
+void PaletteMenuWidget::build(const ColorMenu& menu) {
+    for (const SwatchSection& section : menu.sections) {
+        auto* widget = new QWidget;
+        auto* column = new QVBoxLayout(widget);
+        const int padding = qRound(SwatchSection::verticalPadding);
+        column->setContentsMargins(kSectionMargin, padding, kSectionMargin, padding);
+        column->setSpacing(padding);
+        column->addWidget(new CaptionLabel(QString::fromStdString(section.title)));
+        auto* grid = new QGridLayout;
+        grid->setVerticalSpacing(qRound(SwatchSection::rowSpacing));
+        grid->setHorizontalSpacing(0);
+        column->addLayout(grid);
+        int index = 0;
+        for (const auto& swatch : section.swatches) {
+            auto* button = new SwatchButton(swatch.face, *widget);
+            connect(button, &QAbstractButton::clicked, this, choosing(swatch.action));
+            grid->addWidget(button, index / kColumns, index % kColumns, Qt::AlignCenter);
+            ++index;
+        }
+        for (int gridColumn = 0; gridColumn < kColumns; ++gridColumn) {
+            grid->setColumnMinimumWidth(gridColumn, qRound(SwatchSection::minimumColumnWidth));
+        }
+        addWidget(widget);
+    }
+    addSeparator();
+    connect(addAction(symbolIcon(menu.customIcon), QString::fromStdString(menu.customLabel)),
+            &QAction::triggered, this, menu.customAction);
+}
+
+void PaletteMenuWidget::build(const LineWidthMenu& menu) {
+    auto* widget = new QWidget;
+    auto* column = new QVBoxLayout(widget);
+    const int padding = qRound(LineWidthMenu::padding);
+    column->setContentsMargins(padding, padding, padding, padding);
+    column->setSpacing(qRound(LineWidthMenu::spacing));
+    m_heading = new CaptionLabel(QString::fromStdString(menu.heading));
+    column->addWidget(m_heading, 0, Qt::AlignLeft);
+    m_slider = new SliderWidget(
+        {menu.slider.minimum, menu.slider.maximum, menu.slider.step}, menu.slider.value, *widget);
+    m_slider->setAccessibleName(QString::fromStdString(menu.slider.accessibilityLabel));
+    m_slider->setFixedWidth(qRound(menu.slider.width));
+
+    auto* sliderRow = new QHBoxLayout;
+    const auto addSymbol = [&](const std::string& name, qreal side) {
+        auto* symbol = new QLabel;
+        symbol->setPixmap(symbolPixmap(name, side, devicePixelRatioF(),
+                                       toQColor(SemanticColor::primary, palette())));
+        sliderRow->addWidget(symbol);
+    };
+    addSymbol(menu.slider.minimumIcon, kCaptionSize);
+    sliderRow->addWidget(m_slider);
+    addSymbol(menu.slider.maximumIcon, kTitle2Size);
+    column->addLayout(sliderRow);
+
+    auto* presets = new QHBoxLayout;
+    for (const LineWidthPreset& preset : menu.presets) {
+        auto* button = new PresetButton(preset, *widget);
+        connect(button, &QAbstractButton::clicked, this, choosing(preset.action));
+        presets->addWidget(button);
+    }
+    column->addLayout(presets);
+    addWidget(widget);
+}
+
+void PaletteMenuWidget::follow(const PaletteMenu& menu) {
+    if (const auto* lineWidth = std::get_if<LineWidthMenu>(&menu); lineWidth && m_slider) {
+        m_heading->setText(QString::fromStdString(lineWidth->heading));
+        m_slider->follow();
+    }
+}
+
+} // namespace quillon::desktop

@@ -1,0 +1,111 @@
+#include "desktop/qt/toolbar/PaletteWidget.h"
+
+#include "desktop/qt/Appearance.h"
+#include "desktop/qt/toolbar/ColorPopover.h"
+#include "desktop/qt/toolbar/ToolbarButtonWidget.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+
+#include <utility>
+
+namespace quillon::desktop {
+
+namespace {
+
+/// A thin upright line.
+class Divider : public QWidget {
+public:
+    explicit Divider(const PaletteDivider& divider) { setFixedSize(1, qRound(divider.height)); }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter(this).fillRect(rect(), toQColor(SemanticColor::primary.opacity(0.15), palette()));
+    }
+};
+
+/// The controls of one child of the row; a divider has none.
+std::vector<PaletteControl> controlsOf(const PaletteChild& child) {
+    if (const auto* control = std::get_if<PaletteControl>(&child)) {
+        return {*control};
+    }
+    const auto* group = std::get_if<PaletteGroup>(&child);
+    return group ? group->controls : std::vector<PaletteControl>();
+}
+
+} // namespace
+
+PaletteWidget::PaletteWidget(std::shared_ptr<FloatingToolbarView> toolbar, QWidget& parent)
+    : ControlsWidget(toolbar, parent)
+    , m_toolbar(std::move(toolbar)) {
+    setAccessibleName(tr("Annotation palette"));
+    layOut(m_toolbar->row());
+    adjustSize();
+    show();
+}
+
+PaletteWidget::~PaletteWidget() = default;
+
+void PaletteWidget::layOut(const PaletteRow& row) {
+    auto* layout = new QHBoxLayout(this);
+    const int reach = shadowReach(PalettePanel::shadow);
+    const int horizontal = reach + qRound(PaletteRow::horizontalPadding);
+    const int vertical = reach + qRound(PaletteRow::verticalPadding);
+    layout->setContentsMargins(horizontal, vertical, horizontal, vertical);
+    layout->setSpacing(qRound(PaletteRow::spacing));
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+
+    for (const PaletteChild& child : row.children) {
+        if (const auto* divider = std::get_if<PaletteDivider>(&child)) {
+            layout->addWidget(new Divider(*divider));
+            continue;
+        }
+        const auto* group = std::get_if<PaletteGroup>(&child);
+        auto* cell = new QHBoxLayout;
+        cell->setSpacing(group ? qRound(group->spacing) : 0);
+        layout->addLayout(cell);
+        for (const PaletteControl& control : controlsOf(child)) {
+            m_buttons.push_back(new ToolbarButtonWidget(control, *this));
+            cell->addWidget(m_buttons.back());
+        }
+    }
+}
+
+void PaletteWidget::bringUpToDate() {
+    auto button = m_buttons.begin();
+    for (const PaletteChild& child : m_toolbar->row().children) {
+        for (const PaletteControl& control : controlsOf(child)) {
+            (*button++)->follow(control);
+        }
+    }
+    followPopover();
+}
+
+void PaletteWidget::followPopover() {
+    if (!m_toolbar->showColorPicker()) {
+        m_popover.reset();
+        return;
+    }
+    if (!m_popover) {
+        m_popover = std::make_unique<ColorPopover>(m_toolbar->makeColorPicker(), *this);
+        m_popover->onDismissed = [this] { m_toolbar->setShowColorPicker(false); };
+        m_popover->showBelow(panelRect().translated(mapToGlobal(QPointF(0, 0))));
+    }
+    m_popover->follow();
+}
+
+QRectF PaletteWidget::panelRect() const {
+    const int reach = shadowReach(PalettePanel::shadow);
+    return QRectF(rect()).adjusted(reach, reach, -reach, -reach);
+}
+
+bool PaletteWidget::isBody(QPointF place) const {
+    return panelRect().contains(place);
+}
+
+void PaletteWidget::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    m_panel.paint(painter, panelRect(), palette());
+}
+
+} // namespace quillon::desktop

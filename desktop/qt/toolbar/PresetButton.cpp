@@ -1,0 +1,40 @@
+#include "desktop/qt/toolbar/PresetButton.h"
+
+#include "desktop/qt/Appearance.h"
+
+#include <QPainter>
+
+namespace quillon::desktop {
+
+namespace {
+
+/// A thin bar can be met as easily as a thick one.
+constexpr int kHeight = 28;
+
+} // namespace
+
+PresetButton::PresetButton(const LineWidthPreset& preset, QWidget& parent)
+    : QAbstractButton(&parent)
+    , m_thickness(preset.height) {
+    setFixedSize(sizeHint());
+    setAttribute(Qt::WA_Hover);
+    setAccessibleName(tr("%1 points").arg(m_thickness));
+}
+
+QSize PresetButton::sizeHint() const {
+    return {qRound(LineWidthPreset::width), kHeight};
+}
+
+void PresetButton::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    const bool isPointedAt = underMouse() || hasFocus();
+    painter.setBrush(toQColor(isPointedAt ? SemanticColor::accent : SemanticColor::primary,
+                              palette()));
+    const QRectF bar(0, (height() - m_thickness) / 2, width(), m_thickness);
+    const qreal radius = qMin(LineWidthPreset::cornerRadius, m_thickness / 2);
+    painter.drawRoundedRect(bar, radius, radius);
+}
+
+} // namespace quillon::desktop

@@ -1,0 +1,122 @@
+#include "desktop/qt/toolbar/QuickColorsWidget.h"
+
+#include "desktop/qt/Appearance.h"
+#include "desktop/qt/toolbar/PopupMenu.h"
+#include "desktop/qt/toolbar/Ring.h"
+#include "desktop/qt/toolbar/SwatchButton.h"
+
+#include <QContextMenuEvent>
+#include <QPainter>
+#include <QtMath>
+
+#include <utility>
+
+namespace quillon::desktop {
+
+namespace {
+
+using View = ColorPickerView;
+
+/// The button that lies over the last colour.
+class AddColorButton : public QAbstractButton {
+public:
+    explicit AddColorButton(QWidget& parent)
+        : QAbstractButton(&parent) {
+        setAccessibleName(tr("Add the current colour"));
+        setAttribute(Qt::WA_Hover);
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        const qreal width = View::AddButton::borderLineWidth;
+        const bool isPointedAt = underMouse() || hasFocus();
+        QPen border(toQColor(isPointedAt ? SemanticColor::accent : SemanticColor::primary,
+                             palette()),
+                    width);
+        border.setDashPattern({View::AddButton::dashLength / width,
+                               View::AddButton::dashLength / width});
+        const QPointF center = QRectF(rect()).center();
+        painter.strokePath(circle(center, View::AddButton::diameter - width), border);
+        const qreal side = View::AddButton::fontSize * 1.15;
+        painter.drawPixmap(center - QPointF(side, side) / 2,
+                           symbolPixmap(View::AddButton::icon, side, devicePixelRatioF(),
+                                        toQColor(SemanticColor::secondary, palette())));
+    }
+};
+
+/// One colour, with its context menu, and perhaps the add button on top.
+class Cell : public QWidget {
+public:
+    Cell(View::QuickColorCell cell, QWidget& parent)
+        : QWidget(&parent)
+        , m_cell(std::move(cell)) {
+        auto* swatch = new SwatchButton(m_cell.swatch, *this);
+        resize(swatch->size());
+        connect(swatch, &QAbstractButton::clicked, this, m_cell.setAsCurrent);
+        if (m_cell.addButton) {
+            auto* add = new AddColorButton(*this);
+            const int side = qRound(View::AddButton::diameter);
+            add->setGeometry((width() - side) / 2, (height() - side) / 2, side, side);
+            // The swatch cannot be reached below it.
+            swatch->setFocusPolicy(Qt::NoFocus);
+            connect(add, &QAbstractButton::clicked, this, m_cell.addButton->action);
+        }
+    }
+
+protected:
+    void contextMenuEvent(QContextMenuEvent* event) override {
+        auto* menu = new PopupMenu(*this);
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        menu->addAction(View::removeTitle, this, m_cell.remove);
+        menu->addAction(View::setAsCurrentTitle, this, m_cell.setAsCurrent);
+        menu->popup(event->globalPos());
+    }
+
+private:
+    View::QuickColorCell m_cell;
+};
+
+} // namespace
+
+QuickColorsWidget::QuickColorsWidget(QWidget& parent)
+    : QWidget(&parent) {}
+
+void QuickColorsWidget::follow(const std::vector<ColorPickerView::QuickColorCell>& cells) {
+    std::vector<Color> colors;
+    for (const auto& cell : cells) {
+        colors.push_back(cell.swatch.color);
+    }
+    if (!m_children.empty() && colors == m_colors) {
+        return;
+    }
+    for (QWidget* child : std::exchange(m_children, {})) {
+        child->hide();
+        child->deleteLater();
+    }
+    m_colors = std::move(colors);
+    int index = 0;
+    for (const auto& cell : cells) {
+        addCell(cell, index++);
+    }
+    const int rows = (index + View::columnCount - 1) / View::columnCount;
+    const qreal height = rows * View::quickSwatchSize + qMax(rows - 1, 0) * View::rowSpacing;
+    setFixedHeight(qCeil(height));
+}
+
+void QuickColorsWidget::addCell(const ColorPickerView::QuickColorCell& cell, int index) {
+    auto* child = new Cell(cell, *this);
+    const qreal columnWidth =
+        (width() - (View::columnCount - 1) * View::columnSpacing) / View::columnCount;
+    const int column = index % View::columnCount;
+    const int row = index / View::columnCount;
+    const QPointF center(column * (columnWidth + View::columnSpacing) + columnWidth / 2,
+                         row * (View::quickSwatchSize + View::rowSpacing) +
+                             View::quickSwatchSize / 2);
+    child->move((center - QPointF(child->width(), child->height()) / 2).toPoint());
+    child->show();
+    m_children.push_back(child);
+}
+
+} // namespace quillon::desktop

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "toolbar/FloatingToolbarView.h"
+
+#include <QWidget>
+
+#include <vector>
+
+namespace quillon::desktop {
+
+/// The grid of quick colours in the popover.
+class QuickColorsWidget : public QWidget {
+public:
+    explicit QuickColorsWidget(QWidget& parent);
+
+    void follow(const std::vector<ColorPickerView::QuickColorCell>& cells);
+
+private:
+    void addCell(const ColorPickerView::QuickColorCell& cell, int index);
+
+    /// What the cells that stand were made of.
+    std::vector<Color> m_colors;
+    std::vector<QWidget*> m_children;
+};
+
+} // namespace quillon::desktop

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "toolbar/FloatingToolbarView.h"
+
+#include <QAbstractButton>
+
+namespace quillon::desktop {
+
+/// A round swatch that can be clicked. A translucent colour shows a chequered ground.
+class SwatchButton : public QAbstractButton {
+public:
+    SwatchButton(const ColorSwatchView& face, QWidget& parent);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    ColorSwatchView m_face;
+};
+
+/// A colour as a figure is filled with it: on a chequered ground where it is translucent.
+void fillWithColor(QPainter& painter, const QPainterPath& figure, const QColor& color);
+
+} // namespace quillon::desktop

@@ -1,0 +1,230 @@
+#include "desktop/qt/toolbar/ToolbarButtonWidget.h"
+
+#include "desktop/qt/Appearance.h"
+#include "desktop/qt/QtConversions.h"
+
+#include <QFocusEvent>
+#include <QKeySequence>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QShortcut>
+#include <QTimerEvent>
+#include <QtMath>
+
+#include <utility>
+
+namespace quillon::desktop {
+
+namespace {
+
+constexpr int kFrameMilliseconds = 16;
+/// From the panel's edge to the menu, in points.
+constexpr int kMenuDistance = 6;
+/// In percent of a font's own width.
+constexpr int kNarrowest = 75;
+
+} // namespace
+
+ToolbarButtonWidget::ToolbarButtonWidget(PaletteControl control, QWidget& parent)
+    : QAbstractButton(&parent)
+    , m_control(std::move(control)) {
+    m_clock.start();
+    // A click leaves the keyboard with the text that is being typed.
+    setFocusPolicy(Qt::TabFocus);
+    setFixedSize(sizeHint());
+    connect(this, &QAbstractButton::clicked, this, [this] {
+        if (m_control.menu) {
+            showMenu();
+        } else {
+            m_control.button.action();
+        }
+    });
+    addKeys();
+    follow(m_control);
+}
+
+ToolbarButtonWidget::~ToolbarButtonWidget() = default;
+
+void ToolbarButtonWidget::addKeys() {
+    if (!m_control.keyEquivalent) {
+        return;
+    }
+    const QString key = QChar(m_control.keyEquivalent->key).toUpper();
+    const QString shift = m_control.keyEquivalent->withShift ? "Shift+" : "";
+    for (const char* command : {"Ctrl+", "Meta+"}) {
+        auto* shortcut = new QShortcut(QKeySequence(command + shift + key), this);
+        connect(shortcut, &QShortcut::activated, this, [this] { click(); });
+        m_keys.push_back(shortcut);
+    }
+}
+
+void ToolbarButtonWidget::follow(PaletteControl control) {
+    ToolbarButton button = m_control.button;
+    button.follow(std::move(control.button));
+    m_control = std::move(control);
+    m_control.button = std::move(button);
+
+    setEnabled(!m_control.isDisabled && !m_control.button.isDisabled);
+    for (QShortcut* key : m_keys) {
+        key->setEnabled(isEnabled());
+    }
+    setAccessibleName(QString::fromStdString(m_control.button.label));
+    if (m_menu && m_control.menu) {
+        m_menu->follow(*m_control.menu);
+    }
+    update();
+}
+
+QSize ToolbarButtonWidget::sizeHint() const {
+    return QSizeF(ToolbarButton::frame.width, ToolbarButton::frame.height).toSize();
+}
+
+void ToolbarButtonWidget::showMenu() {
+    m_menu = std::make_unique<PaletteMenuWidget>(*m_control.menu, *this);
+    connect(m_menu.get(), &QMenu::aboutToHide, this, [this] { release(); });
+    const int belowPanel =
+        height() + static_cast<int>(PaletteRow::verticalPadding) + kMenuDistance;
+    m_menu->popup(mapToGlobal(QPoint(0, belowPanel)));
+}
+
+// The press.
+
+void ToolbarButtonWidget::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::RightButton && m_control.menu) {
+        m_control.button.action();
+    } else if (event->button() == Qt::LeftButton) {
+        press();
+        if (m_control.menu) {
+            showMenu();
+        } else {
+            QAbstractButton::mousePressEvent(event);
+        }
+    }
+}
+
+void ToolbarButtonWidget::mouseMoveEvent(QMouseEvent* event) {
+    if (isDown()) {
+        press();
+    }
+    QAbstractButton::mouseMoveEvent(event);
+}
+
+void ToolbarButtonWidget::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) {
+        release();
+    }
+    QAbstractButton::mouseReleaseEvent(event);
+}
+
+void ToolbarButtonWidget::press() {
+    m_control.button.pressEvents().onPress();
+    followPress();
+}
+
+void ToolbarButtonWidget::release() {
+    m_control.button.pressEvents().onRelease();
+    followPress();
+}
+
+void ToolbarButtonWidget::followPress() {
+    const double scale = m_control.button.scale();
+    if (scale != m_scale.target()) {
+        m_scale.setTarget(scale, now());
+        m_frames.start(kFrameMilliseconds, Qt::PreciseTimer, this);
+    }
+}
+
+double ToolbarButtonWidget::now() const {
+    return static_cast<double>(m_clock.nsecsElapsed()) * 1e-9;
+}
+
+void ToolbarButtonWidget::timerEvent(QTimerEvent* event) {
+    if (event->timerId() != m_frames.timerId()) {
+        QAbstractButton::timerEvent(event);
+        return;
+    }
+    if (m_scale.isAtRest(now())) {
+        m_frames.stop();
+    }
+    update();
+}
+
+void ToolbarButtonWidget::enterEvent(QEnterEvent* /*event*/) {
+    m_control.onHover(true);
+}
+
+void ToolbarButtonWidget::leaveEvent(QEvent* /*event*/) {
+    m_control.onHover(false);
+}
+
+void ToolbarButtonWidget::focusInEvent(QFocusEvent* event) {
+    m_showsFocus = event->reason() == Qt::TabFocusReason ||
+                   event->reason() == Qt::BacktabFocusReason ||
+                   event->reason() == Qt::OtherFocusReason;
+    QAbstractButton::focusInEvent(event);
+}
+
+void ToolbarButtonWidget::focusOutEvent(QFocusEvent* event) {
+    m_showsFocus = false;
+    QAbstractButton::focusOutEvent(event);
+}
+
+// The look.
+
+void ToolbarButtonWidget::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    const double scale = m_frames.isActive() ? m_scale.valueAt(now()) : m_scale.target();
+    const QPointF center = QRectF(rect()).center();
+    painter.translate(center);
+    painter.scale(scale, scale);
+    painter.translate(-center);
+    paintFace(painter);
+}
+
+void ToolbarButtonWidget::paintFace(QPainter& painter) const {
+    const ToolbarButton& button = m_control.button;
+    const QRectF frame(rect());
+    const qreal radius = ToolbarButton::backgroundCornerRadius;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(toQColor(button.background(), palette()));
+    painter.drawRoundedRect(frame, radius, radius);
+    if (m_showsFocus) {
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(frame.adjusted(1, 1, -1, -1), radius, radius);
+    }
+
+    const QColor foreground = toQColor(button.foregroundColor(), palette());
+    const QString label = QString::fromStdString(button.label);
+    const QFont font = captionFont(label);
+    const QFontMetricsF metrics(font);
+    const CGSize symbolFrame = ToolbarButton::symbolFrame;
+    const qreal height = symbolFrame.height + ToolbarButton::spacing + metrics.height();
+    const qreal top = frame.top() + (frame.height() - height) / 2;
+    // A glyph leaves a margin in its grid that the same glyph of a font would not have.
+    const qreal side = ToolbarButton::symbolFontSize * 1.25;
+    const QPointF symbol(frame.center().x() - side / 2, top + (symbolFrame.height - side) / 2);
+    painter.drawPixmap(symbol, symbolPixmap(button.icon, side, devicePixelRatio(), foreground));
+
+    const QRectF caption(frame.left(), top + height - metrics.height(), frame.width(),
+                         metrics.height());
+    painter.setFont(font);
+    painter.setPen(foreground);
+    painter.drawText(caption, Qt::AlignCenter,
+                     metrics.elidedText(label, Qt::ElideRight, caption.width()));
+}
+
+QFont ToolbarButtonWidget::captionFont(const QString& caption) const {
+    QFont font = systemFont(ToolbarButton::captionFontSize);
+    font.setWeight(QFont::Medium);
+    // A wide font is drawn narrower rather than cut off.
+    const qreal width = QFontMetricsF(font).horizontalAdvance(caption);
+    const qreal room = QRectF(rect()).width() - 2;
+    if (width > room) {
+        font.setStretch(qMax(qFloor(100 * room / width), kNarrowest));
+    }
+    return font;
+}
+
+} // namespace quillon::desktop
