@@ -20,19 +20,20 @@ bool isDark(const QPalette& palette) {
 }
 
 QColor toQColor(const SemanticColor& color, const QPalette& palette) {
+    // A control that is out of service says so by its own description.
     const auto base = [&] {
         switch (color.role) {
         case SemanticColor::Role::clear:
             return QColor(Qt::transparent);
         case SemanticColor::Role::primary:
-            return palette.color(QPalette::WindowText);
+            return palette.color(QPalette::Active, QPalette::WindowText);
         case SemanticColor::Role::secondary: {
-            QColor secondary = palette.color(QPalette::WindowText);
+            QColor secondary = palette.color(QPalette::Active, QPalette::WindowText);
             secondary.setAlphaF(kSecondaryAlpha);
             return secondary;
         }
         case SemanticColor::Role::accent:
-            return palette.color(QPalette::Highlight);
+            return palette.color(QPalette::Active, QPalette::Highlight);
         case SemanticColor::Role::red:
             return toQColor(Color::red);
         }

@@ -10,6 +10,7 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QWindow>
 #include <QtMath>
 
 #include <chrono>
@@ -43,6 +44,9 @@ ContentWidget::ContentWidget(std::function<void()> onPress)
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_NoSystemBackground);
     setAttribute(Qt::WA_ShowWithoutActivating);
+    // With the focus here, the first tab goes to the first control.
+    setFocusPolicy(Qt::ClickFocus);
+    setFocus();
     m_sinceLastUpdate.start();
 }
 
@@ -70,11 +74,23 @@ bool ContentWidget::event(QEvent* event) {
         updateContent();
         return true;
     }
+    if (event->type() == QEvent::WinIdChange && windowHandle()) {
+        windowHandle()->installEventFilter(this);
+    }
     // The scale is known for sure only on the screen where the window comes to stand.
     if (event->type() == QEvent::Show || event->type() == QEvent::ScreenChangeInternal) {
         layoutContent();
     }
     return QWidget::event(event);
+}
+
+bool ContentWidget::eventFilter(QObject* watched, QEvent* event) {
+    // A press on a control is one in this window as well.
+    if (watched == windowHandle() && event->type() == QEvent::MouseButtonPress &&
+        static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+        m_onPress();
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void ContentWidget::setComposited(bool composited) {
@@ -167,7 +183,6 @@ void ContentWidget::resizeEvent(QResizeEvent* /*event*/) {
 
 void ContentWidget::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton && m_content) {
-        m_onPress();
         m_content->rootView->mouseDown(fromQPointF(event->position()));
     }
 }
@@ -239,6 +254,17 @@ void ContentWidget::updateControls() {
     }
     if (placed) {
         m_controls->place(toQPointF(placed->center));
+    }
+    tellControlsPlace();
+}
+
+void ContentWidget::tellControlsPlace() {
+    const QRect place =
+        m_controls ? devicePixels(fromQRectF(m_controls->body().translated(m_controls->pos())),
+                                  devicePixelRatio())
+                   : QRect();
+    if (std::exchange(m_controlsPlace, place) != place && onControlsPlaced) {
+        onControlsPlaced(place);
     }
 }
 

@@ -44,8 +44,13 @@ public:
     /// Called after each change of `isEditingText`.
     std::function<void()> onEditingChanged;
 
+    /// Called with the place of the controls' body, in device pixels, after each change; empty when
+    /// there are none.
+    std::function<void(const QRect&)> onControlsPlaced;
+
 protected:
     bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -61,6 +66,7 @@ private:
     void updateContent();
     void updateTextField();
     void updateControls();
+    void tellControlsPlace();
     void showControls(const std::shared_ptr<ControlView>& view);
     void layoutContent();
     QRegion regionOf(const Damage& damage) const;
@@ -76,6 +82,7 @@ private:
     QColor m_backgroundColor;
     std::unique_ptr<TextFieldWidget> m_textField;
     std::unique_ptr<ControlsWidget> m_controls;
+    QRect m_controlsPlace;
     std::optional<InkMask> m_inkMask;
     bool m_isUpdatePending = false;
     QElapsedTimer m_sinceLastUpdate;

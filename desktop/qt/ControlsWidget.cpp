@@ -56,7 +56,7 @@ void ControlsWidget::tell(const std::function<void(QPointF)>& listener, const QM
 }
 
 void ControlsWidget::mousePressEvent(QMouseEvent* event) {
-    if (!isBody(event->position())) {
+    if (!body().contains(event->position())) {
         event->ignore();
     } else if (event->button() == Qt::LeftButton) {
         m_isDragging = true;

@@ -21,6 +21,9 @@ public:
     ControlsWidget(const std::shared_ptr<ControlView>& view, QWidget& parent);
 
     const ControlView* view() const { return m_view.get(); }
+    /// Where the view's body is to be seen, in the widget's coordinates. A press beside the
+    /// controls and outside of the body goes on to what lies below.
+    virtual QRectF body() const = 0;
     /// `center` in the parent's coordinates.
     void place(QPointF center);
 
@@ -36,9 +39,6 @@ protected:
     bool event(QEvent* event) override;
     /// Brings the controls in line with the description.
     virtual void bringUpToDate() = 0;
-    /// Whether a press at that place, which met no control, is on the view's body. Any other press
-    /// goes on to what lies below.
-    virtual bool isBody(QPointF place) const = 0;
 
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;

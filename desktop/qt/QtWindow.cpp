@@ -2,6 +2,7 @@
 
 #include "desktop/qt/GlobalCoordinates.h"
 #include "desktop/qt/QtConversions.h"
+#include "desktop/x11/BlurBehind.h"
 #include "desktop/x11/Compositor.h"
 #include "desktop/x11/WindowShape.h"
 
@@ -12,6 +13,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace quillon::desktop {
@@ -19,6 +21,11 @@ namespace quillon::desktop {
 namespace {
 
 constexpr std::chrono::milliseconds kGrabAgain{30};
+
+xcb_rectangle_t toRectangle(const QRect& rect) {
+    return {static_cast<std::int16_t>(rect.x()), static_cast<std::int16_t>(rect.y()),
+            static_cast<std::uint16_t>(rect.width()), static_cast<std::uint16_t>(rect.height())};
+}
 
 } // namespace
 
@@ -30,6 +37,7 @@ QtWindow::QtWindow(Window& window, xcb_connection_t* connection)
     m_widget.setWindowFlags(Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint |
                             Qt::WindowStaysOnTopHint | Qt::NoShadowWindowHint | Qt::Tool);
     m_widget.onEditingChanged = [this] { giveBackKeyboardIfUnused(); };
+    m_widget.onControlsPlaced = [this](const QRect& place) { blurBehind(place); };
     m_widget.onOutlined = [this](const QRegion& outline) { takeOutline(outline); };
     setFrame(window.frame());
     setIgnoresMouseEvents(window.ignoresMouseEvents());
@@ -88,12 +96,15 @@ void QtWindow::grabPointerIfNeeded() {
     }
 }
 
+void QtWindow::blurBehind(const QRect& place) {
+    setBlurBehind(m_connection, nativeWindow(),
+                  place.isEmpty() ? std::nullopt : std::optional(toRectangle(place)));
+}
+
 void QtWindow::takeOutline(const QRegion& outline) {
     std::vector<xcb_rectangle_t> rectangles;
     for (const QRect& rect : outline) {
-        rectangles.push_back(
-            {static_cast<std::int16_t>(rect.x()), static_cast<std::int16_t>(rect.y()),
-             static_cast<std::uint16_t>(rect.width()), static_cast<std::uint16_t>(rect.height())});
+        rectangles.push_back(toRectangle(rect));
     }
     setOutline(m_connection, nativeWindow(), rectangles);
 }

@@ -31,6 +31,7 @@ private:
     void followCompositor();
     void grabPointerIfNeeded();
     void takeOutline(const QRegion& outline);
+    void blurBehind(const QRect& place);
     void takeKeyboard();
     void giveBackKeyboardIfUnused();
     xcb_window_t nativeWindow() const { return static_cast<xcb_window_t>(m_widget.winId()); }

@@ -31,9 +31,8 @@ void drawSeparator(const QStyleOptionMenuItem& option, QPainter& painter) {
 void drawEntry(const QStyleOptionMenuItem& option, QPainter& painter) {
     const bool isCurrent = option.state.testFlag(QStyle::State_Selected) &&
                            option.state.testFlag(QStyle::State_Enabled);
-    const QColor foreground =
-        isCurrent ? option.palette.color(QPalette::HighlightedText)
-                  : toQColor(SemanticColor::primary, option.palette);
+    const QColor foreground = isCurrent ? option.palette.color(QPalette::HighlightedText)
+                                        : toQColor(SemanticColor::primary, option.palette);
     const qreal scale = painter.device()->devicePixelRatio();
     const QRect rect = option.rect;
     if (isCurrent) {
@@ -110,9 +109,8 @@ QSize MenuStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
     }
     const int text = entry->fontMetrics.horizontalAdvance(entry->text);
     const int icon = entry->icon.isNull() ? 0 : kIconSide + kGap;
-    const int checkmark = entry->checkType == QStyleOptionMenuItem::NotCheckable
-                              ? 0
-                              : 2 * kGap + kCheckmarkSide;
+    const int checkmark =
+        entry->checkType == QStyleOptionMenuItem::NotCheckable ? 0 : 2 * kGap + kCheckmarkSide;
     return {kGap + icon + text + checkmark + kGap, kEntryHeight};
 }
 

@@ -66,15 +66,17 @@ void PaletteMenuWidget::build(const ColorMenu& menu) {
         grid->setVerticalSpacing(qRound(SwatchSection::rowSpacing));
         grid->setHorizontalSpacing(0);
         column->addLayout(grid);
+        qreal columnWidth = SwatchSection::minimumColumnWidth;
         int index = 0;
         for (const auto& swatch : section.swatches) {
             auto* button = new SwatchButton(swatch.face, *widget);
             connect(button, &QAbstractButton::clicked, this, choosing(swatch.action));
             grid->addWidget(button, index / kColumns, index % kColumns, Qt::AlignCenter);
+            columnWidth = qMax(columnWidth, QSizeF(button->size()).width());
             ++index;
         }
         for (int gridColumn = 0; gridColumn < kColumns; ++gridColumn) {
-            grid->setColumnMinimumWidth(gridColumn, qRound(SwatchSection::minimumColumnWidth));
+            grid->setColumnMinimumWidth(gridColumn, qRound(columnWidth));
         }
         addWidget(widget);
     }
@@ -91,8 +93,8 @@ void PaletteMenuWidget::build(const LineWidthMenu& menu) {
     column->setSpacing(qRound(LineWidthMenu::spacing));
     m_heading = new CaptionLabel(QString::fromStdString(menu.heading));
     column->addWidget(m_heading, 0, Qt::AlignLeft);
-    m_slider = new SliderWidget(
-        {menu.slider.minimum, menu.slider.maximum, menu.slider.step}, menu.slider.value, *widget);
+    m_slider = new SliderWidget({menu.slider.minimum, menu.slider.maximum, menu.slider.step},
+                                menu.slider.value, *widget);
     m_slider->setAccessibleName(QString::fromStdString(menu.slider.accessibilityLabel));
     m_slider->setFixedWidth(qRound(menu.slider.width));
 

@@ -89,23 +89,19 @@ void PaletteWidget::followPopover() {
     if (!m_popover) {
         m_popover = std::make_unique<ColorPopover>(m_toolbar->makeColorPicker(), *this);
         m_popover->onDismissed = [this] { m_toolbar->setShowColorPicker(false); };
-        m_popover->showBelow(panelRect().translated(mapToGlobal(QPointF(0, 0))));
+        m_popover->showBelow(body().translated(mapToGlobal(QPointF(0, 0))));
     }
     m_popover->follow();
 }
 
-QRectF PaletteWidget::panelRect() const {
+QRectF PaletteWidget::body() const {
     const int reach = shadowReach(PalettePanel::shadow);
     return QRectF(rect()).adjusted(reach, reach, -reach, -reach);
 }
 
-bool PaletteWidget::isBody(QPointF place) const {
-    return panelRect().contains(place);
-}
-
 void PaletteWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    m_panel.paint(painter, panelRect(), palette());
+    m_panel.paint(painter, body(), palette());
 }
 
 } // namespace quillon::desktop

@@ -18,15 +18,15 @@ public:
     PaletteWidget(std::shared_ptr<FloatingToolbarView> toolbar, QWidget& parent);
     ~PaletteWidget() override;
 
+    QRectF body() const override;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void bringUpToDate() override;
-    bool isBody(QPointF place) const override;
 
 private:
     void layOut(const PaletteRow& row);
     void followPopover();
-    QRectF panelRect() const;
 
     std::shared_ptr<FloatingToolbarView> m_toolbar;
     /// In the order of the row.

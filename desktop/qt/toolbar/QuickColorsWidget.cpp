@@ -32,11 +32,11 @@ protected:
         painter.setRenderHint(QPainter::Antialiasing);
         const qreal width = View::AddButton::borderLineWidth;
         const bool isPointedAt = underMouse() || hasFocus();
-        QPen border(toQColor(isPointedAt ? SemanticColor::accent : SemanticColor::primary,
-                             palette()),
-                    width);
-        border.setDashPattern({View::AddButton::dashLength / width,
-                               View::AddButton::dashLength / width});
+        QPen border(
+            toQColor(isPointedAt ? SemanticColor::accent : SemanticColor::primary, palette()),
+            width);
+        border.setDashPattern(
+            {View::AddButton::dashLength / width, View::AddButton::dashLength / width});
         const QPointF center = QRectF(rect()).center();
         painter.strokePath(circle(center, View::AddButton::diameter - width), border);
         const qreal side = View::AddButton::fontSize * 1.15;

@@ -18,8 +18,7 @@ void paintRing(QPainter& painter, const QPainterPath& figure, const QPen& pen,
                const Shadow& shadow) {
     const qreal scale = painter.device()->devicePixelRatio();
     const int reach = shadowReach(shadow) + qCeil(pen.widthF());
-    const QRect area =
-        figure.boundingRect().adjusted(-reach, -reach, reach, reach).toAlignedRect();
+    const QRect area = figure.boundingRect().adjusted(-reach, -reach, reach, reach).toAlignedRect();
     QImage picture(area.size() * scale, QImage::Format_ARGB32_Premultiplied);
     picture.setDevicePixelRatio(scale);
     picture.fill(Qt::transparent);

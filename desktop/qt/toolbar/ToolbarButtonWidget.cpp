@@ -82,8 +82,7 @@ QSize ToolbarButtonWidget::sizeHint() const {
 void ToolbarButtonWidget::showMenu() {
     m_menu = std::make_unique<PaletteMenuWidget>(*m_control.menu, *this);
     connect(m_menu.get(), &QMenu::aboutToHide, this, [this] { release(); });
-    const int belowPanel =
-        height() + static_cast<int>(PaletteRow::verticalPadding) + kMenuDistance;
+    const int belowPanel = height() + static_cast<int>(PaletteRow::verticalPadding) + kMenuDistance;
     m_menu->popup(mapToGlobal(QPoint(0, belowPanel)));
 }
 
