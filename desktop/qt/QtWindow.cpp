@@ -35,7 +35,7 @@ QtWindow::QtWindow(Window& window, xcb_connection_t* connection)
     , m_keyboard(connection)
     , m_widget([this] { takeKeyboard(); }) {
     m_widget.setWindowFlags(Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint |
-                            Qt::WindowStaysOnTopHint | Qt::NoShadowWindowHint | Qt::Tool);
+                            Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint | Qt::Tool);
     m_widget.onEditingChanged = [this] { giveBackKeyboardIfUnused(); };
     m_widget.onControlsPlaced = [this](const QRect& place) { blurBehind(place); };
     m_widget.onOutlined = [this](const QRegion& outline) { takeOutline(outline); };

@@ -24,7 +24,7 @@ constexpr int kScreenMargin = 6;
 } // namespace
 
 ColorPopover::ColorPopover(std::unique_ptr<ColorPickerView> picker, QWidget& parent)
-    : QWidget(&parent, Qt::Popup | Qt::FramelessWindowHint | Qt::NoShadowWindowHint) {
+    : QWidget(&parent, Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint) {
     prepareSurface(*this);
     setAccessibleName(tr("Colour"));
     m_content = new ColorPickerWidget(std::move(picker), *this);

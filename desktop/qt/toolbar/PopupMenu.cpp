@@ -8,7 +8,7 @@ PopupMenu::PopupMenu(QWidget& parent)
     : QMenu(&parent) {
     setStyle(&m_style);
     setWindowFlag(Qt::FramelessWindowHint);
-    setWindowFlag(Qt::NoShadowWindowHint);
+    setWindowFlag(Qt::NoDropShadowWindowHint);
     prepareSurface(*this);
 }
 
