@@ -7,6 +7,7 @@
 
 #include <QBackingStore>
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -198,6 +199,18 @@ void ContentWidget::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton && m_content) {
         m_content->rootView->mouseUp(fromQPointF(event->position()));
     }
+}
+
+void ContentWidget::keyPressEvent(QKeyEvent* event) {
+    // A field that has appeared is about to take the keyboard: the key is meant for it.
+    if (m_textField && !m_textField->hasFocus()) {
+        m_textField->setFocus(Qt::OtherFocusReason);
+        if (m_textField->hasFocus()) {
+            QCoreApplication::sendEvent(m_textField.get(), event);
+            return;
+        }
+    }
+    QWidget::keyPressEvent(event);
 }
 
 void ContentWidget::requestUpdate() {
