@@ -21,6 +21,7 @@ namespace quillon::desktop {
 namespace {
 
 constexpr std::chrono::milliseconds kGrabAgain{30};
+constexpr int kGrabConfirmations = 5;
 
 xcb_rectangle_t toRectangle(const QRect& rect) {
     return {static_cast<std::int16_t>(rect.x()), static_cast<std::int16_t>(rect.y()),
@@ -93,6 +94,18 @@ void QtWindow::grabPointerIfNeeded() {
     if (wanted && !done) {
         // Somebody else holds a button down; that passes.
         QTimer::singleShot(kGrabAgain, &m_widget, [this] { grabPointerIfNeeded(); });
+    } else if (wanted) {
+        // Under some window managers the server ends a grab again that it granted within the press
+        // of a shortcut, and tells nobody. To ask again for what one has changes nothing.
+        for (int times = 1; times <= kGrabConfirmations; ++times) {
+            QTimer::singleShot(times * kGrabAgain, &m_widget, [this] { confirmGrab(); });
+        }
+    }
+}
+
+void QtWindow::confirmGrab() {
+    if (m_grabsPointer) {
+        m_widget.windowHandle()->setMouseGrabEnabled(true);
     }
 }
 

@@ -30,6 +30,7 @@ private:
     /// Looks whether there is a compositor; done whenever the window's input or order changes.
     void followCompositor();
     void grabPointerIfNeeded();
+    void confirmGrab();
     void takeOutline(const QRegion& outline);
     void blurBehind(const QRect& place);
     void takeKeyboard();
