@@ -363,8 +363,8 @@ TEST_F(HotkeyManagerLifetime, a_press_that_outlives_the_manager_is_dropped) {
         HotkeyManager::shared().registerHotkeys(sixBindings);
         HotkeyManager::shared().startListening();
         hotKeys.press(1, commandShift);
+        ASSERT_FALSE(mainQueue.isIdle());
     }
-    ASSERT_FALSE(mainQueue.isIdle());
     mainQueue.run();
     EXPECT_EQ(heard, 0);
 }
