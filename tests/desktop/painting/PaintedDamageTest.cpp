@@ -154,6 +154,9 @@ TEST_P(PaintedDamage, after_any_sequence_the_screen_is_pixel_for_pixel_the_plain
     const auto place = [&] { return CGPoint{pick(2600) / 10.0 - 10, pick(1800) / 10.0 - 10}; };
     const std::vector<Color> colors{Color::red, Color::blue.opacity(0.5), Color::green,
                                     Color::yellow.opacity(0.3), Color::black};
+    const std::vector<std::string> texts{
+        "Quill fj", "\u00C5ngstr\u00F6m Z\u0351\u0357\u0351\u0357g\u0330\u0330",
+        "\u05E9\u05DC\u05D5\u05DD \u0633\u0644\u0627\u0645", "\u6F22\u5B57 \u270D\U0001F600  "};
     bool isDragging = false;
     CGPoint pointer;
     for (int step = 0; step < 900; ++step) {
@@ -194,12 +197,13 @@ TEST_P(PaintedDamage, after_any_sequence_the_screen_is_pixel_for_pixel_the_plain
             default: {
                 auto tool = allCases<DrawingTool>()[static_cast<std::size_t>(pick(8))];
                 if (tool == DrawingTool::text) {
-                    state.addStroke(DrawingStroke({.points = {place()},
-                                                   .color = colors[0],
-                                                   .lineWidth = 1,
-                                                   .tool = tool,
-                                                   .textContent = "Quill fj",
-                                                   .fontSize = 24.0}));
+                    state.addStroke(
+                        DrawingStroke({.points = {place()},
+                                       .color = colors[0],
+                                       .lineWidth = 1,
+                                       .tool = tool,
+                                       .textContent = texts[static_cast<std::size_t>(pick(4))],
+                                       .fontSize = 24.0}));
                     break;
                 }
                 settings.selectedTool = tool;
