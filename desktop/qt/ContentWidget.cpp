@@ -184,6 +184,9 @@ void ContentWidget::resizeEvent(QResizeEvent* /*event*/) {
 
 void ContentWidget::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton && m_content) {
+        if (m_textField) {
+            m_textField->finishComposing();
+        }
         m_content->rootView->mouseDown(fromQPointF(event->position()));
     }
 }

@@ -3,6 +3,9 @@
 #include "desktop/qt/QtConversions.h"
 
 #include <QFocusEvent>
+#include <QGuiApplication>
+#include <QInputMethod>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 
 #include <utility>
@@ -31,6 +34,22 @@ void TextFieldWidget::follow(TextField field) {
     m_field = std::move(field);
     place();
     takeFocusIfWanted();
+}
+
+void TextFieldWidget::finishComposing() {
+    // Most input methods hand their text over when they are asked to; of the others it is taken.
+    QGuiApplication::inputMethod()->commit();
+    if (!m_composed.isEmpty()) {
+        QInputMethodEvent taken;
+        taken.setCommitString(std::exchange(m_composed, {}));
+        QCoreApplication::sendEvent(this, &taken);
+        QGuiApplication::inputMethod()->reset();
+    }
+}
+
+void TextFieldWidget::inputMethodEvent(QInputMethodEvent* event) {
+    m_composed = event->preeditString();
+    QLineEdit::inputMethodEvent(event);
 }
 
 void TextFieldWidget::keyPressEvent(QKeyEvent* event) {

@@ -16,8 +16,11 @@ public:
     int identity() const { return m_field.identity; }
     /// Takes over a newer description of the same field.
     void follow(TextField field);
+    /// Makes text of what an input method is still composing.
+    void finishComposing();
 
 protected:
+    void inputMethodEvent(QInputMethodEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -27,6 +30,8 @@ private:
     void takeFocusIfWanted();
 
     TextField m_field;
+    /// Shown in the field, and no part of its text yet.
+    QString m_composed;
     /// While the field goes away, the loss of its focus means nothing.
     bool m_isLeaving = false;
 };
