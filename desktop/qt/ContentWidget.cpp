@@ -145,6 +145,12 @@ void ContentWidget::putOnScreen(const QRegion& region) {
     store->flush(region);
 }
 
+void ContentWidget::display() {
+    if (m_content && isVisible()) {
+        putOnScreen(rect());
+    }
+}
+
 void ContentWidget::paintContent(QPainter& painter, const QRect& rect) {
     if (m_backgroundColor.isValid()) {
         painter.fillRect(rect, m_backgroundColor);

@@ -39,6 +39,9 @@ public:
     /// Called with the outline, in device pixels, when it may have changed.
     std::function<void(const QRegion&)> onOutlined;
 
+    /// Puts the whole picture on the screen once more.
+    void display();
+
     /// Whether a text field has the keyboard or is about to get it.
     bool isEditingText() const { return m_textField != nullptr; }
     /// Called after each change of `isEditingText`.

@@ -52,6 +52,10 @@ void QtWindow::setFrame(const CGRect& frame) {
     m_widget.setGeometry(desktopFromGlobal(frame, primaryGeometry).toAlignedRect());
 }
 
+void QtWindow::display() {
+    m_widget.display();
+}
+
 void QtWindow::setIgnoresMouseEvents(bool ignores) {
     followCompositor();
     setInputRegion(m_connection, nativeWindow(),

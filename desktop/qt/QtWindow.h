@@ -20,6 +20,7 @@ public:
     ~QtWindow() override;
 
     void setFrame(const CGRect& frame) override;
+    void display() override;
     void setIgnoresMouseEvents(bool ignores) override;
     void setContentView(const std::shared_ptr<HostingView>& view) override;
     void orderFrontRegardless() override;

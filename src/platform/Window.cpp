@@ -25,9 +25,13 @@ void Window::setIgnoresMouseEvents(bool ignores) {
     m_backend->setIgnoresMouseEvents(ignores);
 }
 
-void Window::setFrame(const CGRect& frame, bool /*display*/, bool /*animate*/) {
+void Window::setFrame(const CGRect& frame, bool display, bool /*animate*/) {
+    const bool stays = frame == m_frame;
     m_frame = frame;
     m_backend->setFrame(frame);
+    if (stays && display) {
+        m_backend->display();
+    }
 }
 
 void Window::setContentView(std::shared_ptr<HostingView> view) {

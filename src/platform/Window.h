@@ -59,6 +59,8 @@ public:
     virtual ~WindowBackend() = default;
 
     virtual void setFrame(const CGRect& frame) = 0;
+    /// Puts the whole picture on the screen once more, whether or not it has changed.
+    virtual void display() = 0;
     virtual void setIgnoresMouseEvents(bool ignores) = 0;
     virtual void setContentView(const std::shared_ptr<HostingView>& view) = 0;
     /// In front of the other windows, without taking the keyboard.
@@ -124,6 +126,8 @@ public:
     void setIgnoresMouseEvents(bool ignores);
 
     const CGRect& frame() const { return m_frame; }
+    /// `display` puts the picture on the screen anew where the frame alone would change nothing
+    /// there.
     void setFrame(const CGRect& frame, bool display, bool animate = false);
     /// The area of the content in the window's own coordinates.
     CGRect contentBounds() const { return {0, 0, m_frame.width, m_frame.height}; }

@@ -69,6 +69,15 @@ TEST_F(WindowTest, a_frame_is_kept_and_handed_on) {
     EXPECT_EQ(host.windows.calls, Calls{"frame"});
 }
 
+TEST_F(WindowTest, a_frame_that_changes_nothing_displays_the_window_anew_if_that_is_asked_for) {
+    const auto window = makeWindow();
+    window->setFrame({1, 2, 30, 40}, true);
+    window->setFrame({1, 2, 30, 40}, true);
+    EXPECT_EQ(host.windows.calls, (Calls{"frame", "frame", "display"}));
+    window->setFrame({1, 2, 30, 40}, false);
+    EXPECT_EQ(host.windows.calls, (Calls{"frame", "frame", "display", "frame"}));
+}
+
 TEST_F(WindowTest, it_comes_on_screen_and_leaves_it) {
     const auto window = makeWindow();
     EXPECT_FALSE(window->isVisible());

@@ -70,6 +70,14 @@ TEST_F(ZoomLensTest, the_visible_frame_of_its_screen_holds_it) {
     EXPECT_EQ(manager().zoomWindow()->frame(), (CGRect{1720, 40, 200, 200}));
 }
 
+TEST_F(ZoomLensTest, pinned_where_it_stands_it_is_displayed_anew_so_that_a_frame_comes) {
+    run();
+    movePointer({1900, 20});
+    host.windows.calls.clear();
+    movePointer({1905, 15});
+    EXPECT_EQ(host.windows.calls, (std::vector<std::string>{"frame", "display"}));
+}
+
 TEST_F(ZoomLensTest, with_the_pointer_on_another_screen_it_stays_pinned_to_its_own) {
     host.screens.all.push_back({{1920, 0, 1280, 1024}, {1920, 0, 1280, 1024}, 1, "Right"});
     run();

@@ -24,6 +24,7 @@ private:
         explicit Backend(std::vector<std::string>& calls)
             : m_calls(calls) {}
         void setFrame(const CGRect&) override { m_calls.emplace_back("frame"); }
+        void display() override { m_calls.emplace_back("display"); }
         void setIgnoresMouseEvents(bool ignores) override {
             m_calls.emplace_back(ignores ? "ignoresMouse" : "takesMouse");
         }

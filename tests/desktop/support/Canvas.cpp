@@ -1,4 +1,4 @@
-#include "desktop/x11/Canvas.h"
+#include "desktop/support/Canvas.h"
 
 namespace quillon::test {
 
@@ -15,13 +15,17 @@ Canvas::Canvas(const std::string& display, const Frame& frame)
     : m_connection(display)
     , m_frame(frame)
     , m_window(xcb_generate_id(m_connection.get()))
+    , m_picture(xcb_generate_id(m_connection.get()))
     , m_pen(xcb_generate_id(m_connection.get())) {
     const xcb_rectangle_t place = rectangle(frame);
-    const std::uint32_t values[] = {m_connection.screen().black_pixel, 1};
+    const std::uint32_t isUnmanaged = 1;
     xcb_create_window(m_connection.get(), XCB_COPY_FROM_PARENT, m_window, m_connection.root(),
                       place.x, place.y, place.width, place.height, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
-                      XCB_COPY_FROM_PARENT, XCB_CW_BACK_PIXEL | XCB_CW_OVERRIDE_REDIRECT, values);
-    xcb_create_gc(m_connection.get(), m_pen, m_window, 0, nullptr);
+                      XCB_COPY_FROM_PARENT, XCB_CW_OVERRIDE_REDIRECT, &isUnmanaged);
+    xcb_create_pixmap(m_connection.get(), m_connection.screen().root_depth, m_picture, m_window,
+                      place.width, place.height);
+    xcb_create_gc(m_connection.get(), m_pen, m_picture, 0, nullptr);
+    fill({0, 0, frame.width, frame.height}, m_connection.screen().black_pixel);
     xcb_map_window(m_connection.get(), m_window);
     m_connection.synchronise();
 }
@@ -29,7 +33,14 @@ Canvas::Canvas(const std::string& display, const Frame& frame)
 void Canvas::fill(const Frame& part, std::uint32_t color) {
     xcb_change_gc(m_connection.get(), m_pen, XCB_GC_FOREGROUND, &color);
     const xcb_rectangle_t place = rectangle(part);
-    xcb_poly_fill_rectangle(m_connection.get(), m_window, m_pen, 1, &place);
+    xcb_poly_fill_rectangle(m_connection.get(), m_picture, m_pen, 1, &place);
+    show(part);
+}
+
+void Canvas::show(const Frame& part) {
+    xcb_change_window_attributes(m_connection.get(), m_window, XCB_CW_BACK_PIXMAP, &m_picture);
+    const xcb_rectangle_t place = rectangle(part);
+    xcb_clear_area(m_connection.get(), 0, m_window, place.x, place.y, place.width, place.height);
     m_connection.synchronise();
 }
 
@@ -52,11 +63,11 @@ void Canvas::fillWithPattern() {
         }
     }
     const xcb_rectangle_t size = rectangle(m_frame);
-    xcb_put_image(m_connection.get(), XCB_IMAGE_FORMAT_Z_PIXMAP, m_window, m_pen, size.width,
+    xcb_put_image(m_connection.get(), XCB_IMAGE_FORMAT_Z_PIXMAP, m_picture, m_pen, size.width,
                   size.height, 0, 0, 0, m_connection.screen().root_depth,
                   static_cast<std::uint32_t>(pixels.size() * 4),
                   reinterpret_cast<const std::uint8_t*>(pixels.data()));
-    m_connection.synchronise();
+    show({0, 0, m_frame.width, m_frame.height});
 }
 
 } // namespace quillon::test

@@ -31,9 +31,14 @@ public:
     void fillWithPattern();
 
 private:
+    /// Puts that part of the picture on the screen.
+    void show(const Frame& part);
+
     XConnection m_connection;
     Frame m_frame;
     xcb_window_t m_window;
+    /// The window's background, so that what is drawn outlasts a compositor that comes or goes.
+    xcb_pixmap_t m_picture;
     xcb_gcontext_t m_pen;
 };
 

@@ -1,0 +1,208 @@
+#include "desktop/program/ProgramTest.h"
+
+#include "desktop/support/Canvas.h"
+
+#include <array>
+#include <cmath>
+#include <fstream>
+#include <string>
+
+namespace quillon::test {
+namespace {
+
+constexpr int kLens = 200;
+/// Where the lens's picture is to be looked at: away from corners, outline and middle.
+constexpr std::array<Pixel, 5> kPlaces{{{20, 30}, {170, 25}, {61, 140}, {133, 177}, {103, 97}}};
+
+/// A pointer over a picture in which no two pixels are alike, and a lens to the right of it that is
+/// too far away to be in its own picture.
+class Zoom : public ProgramTest {
+protected:
+    void startWith(MagnificationFactor magnification, Pixel place = {300, 300},
+                   CGFloat offsetX = 150) {
+        prepare([&](AppSettings& settings) {
+            settings.magnificationFactor = magnification;
+            settings.showZoomCrosshair = false;
+            settings.zoomWindowOffsetX = offsetX;
+            settings.zoomWindowOffsetY = -100;
+        });
+        start();
+        input.moveTo(place);
+        toggleZoom();
+    }
+    void toggleZoom() { input.chord({"Super_L", "Shift_L", "x"}); }
+
+    /// The top left corner of the lens when nothing holds it up.
+    static Pixel lensAt(Pixel pointer) { return {pointer.x + 150, pointer.y - 100}; }
+
+    static Rgb patternAt(Pixel place) {
+        const auto color = Canvas::patternAt(place.x - kCanvas.x, place.y - kCanvas.y);
+        return {static_cast<int>(color >> 16), static_cast<int>(color >> 8 & 0xFF),
+                static_cast<int>(color & 0xFF)};
+    }
+    /// What stands at a place in the lens when the picture fills it.
+    static Rgb magnified(Pixel inLens, Pixel pointer, CGFloat factor) {
+        const auto source = [factor](int lens, int center) {
+            return static_cast<int>(std::floor(center + (lens + 0.5 - kLens / 2.0) / factor));
+        };
+        return patternAt({source(inLens.x, pointer.x), source(inLens.y, pointer.y)});
+    }
+    bool showsMagnified(Pixel pointer, CGFloat factor) {
+        const Pixel lens = lensAt(pointer);
+        bool shows = true;
+        for (const Pixel place : kPlaces) {
+            const Rgb expected = magnified(place, pointer, factor);
+            const bool isThere = screen.waitForPixel({lens.x + place.x, lens.y + place.y},
+                                                     [&](Rgb seen) { return seen == expected; });
+            EXPECT_TRUE(isThere) << place.x << ", " << place.y << ": " << expected << " expected, "
+                                 << screen.pixel({lens.x + place.x, lens.y + place.y});
+            shows = shows && isThere;
+        }
+        return shows;
+    }
+
+    int sharedSegments() {
+        std::ifstream maps("/proc/" + std::to_string(program->process().pid()) + "/maps");
+        int count = 0;
+        for (std::string line; std::getline(maps, line);) {
+            count += line.find("SYSV") != std::string::npos ? 1 : 0;
+        }
+        return count;
+    }
+
+    static constexpr Pixel kCanvas{180, 180};
+    Canvas canvas{desktop.display(), {kCanvas.x, kCanvas.y, 256, 256}};
+};
+
+TEST_F(Zoom, each_factor_shows_the_screen_under_the_pointer_pixel_for_pixel) {
+    canvas.fillWithPattern();
+    for (const MagnificationFactor magnification : allCases<MagnificationFactor>()) {
+        startWith(magnification);
+        EXPECT_TRUE(showsMagnified({300, 300}, factor(magnification)))
+            << displayName(magnification);
+        stop();
+    }
+}
+
+TEST_F(Zoom, the_lens_follows_the_pointer_with_its_picture) {
+    canvas.fillWithPattern();
+    startWith(MagnificationFactor::x4);
+    ASSERT_TRUE(showsMagnified({300, 300}, 4));
+    for (int step = 1; step <= 20; ++step) {
+        input.moveTo({300 + step, 300 - step});
+    }
+    EXPECT_TRUE(showsMagnified({320, 280}, 4));
+    // Nothing is left where it stood.
+    EXPECT_TRUE(
+        screen.waitForColor({lensAt({300, 300}).x + 5, lensAt({300, 300}).y + 195}, kBackground));
+}
+
+TEST_F(Zoom, pinned_to_the_edge_of_the_screen_the_picture_still_follows_the_pointer) {
+    canvas.fillWithPattern();
+    startWith(MagnificationFactor::x4, {300, 300}, 2000);
+    const Pixel lens{900 - kLens, 200};
+    const auto shows = [&](Pixel pointer) {
+        const Rgb expected = magnified({20, 30}, pointer, 4);
+        return screen.waitForPixel({lens.x + 20, lens.y + 30},
+                                   [&](Rgb seen) { return seen == expected; });
+    };
+    ASSERT_TRUE(shows({300, 300}));
+    // Along the edge the lens has nowhere to go.
+    input.moveTo({310, 300});
+    EXPECT_TRUE(shows({310, 300}));
+    input.moveTo({317, 300});
+    EXPECT_TRUE(shows({317, 300}));
+}
+
+TEST_F(Zoom, what_changes_on_the_screen_changes_in_the_lens) {
+    canvas.fill({0, 0, 256, 256}, 0x2060A0);
+    startWith(MagnificationFactor::x2);
+    const Pixel middle{lensAt({300, 300}).x + 103, lensAt({300, 300}).y + 97};
+    for (const std::uint32_t color : {0xC08020U, 0x208020U, 0x2060A0U}) {
+        canvas.fill({100, 100, 40, 40}, color);
+        const Rgb expected{static_cast<int>(color >> 16), static_cast<int>(color >> 8 & 0xFF),
+                           static_cast<int>(color & 0xFF)};
+        EXPECT_TRUE(screen.waitForPixel(middle, [&](Rgb seen) { return seen == expected; }));
+    }
+}
+
+TEST_F(Zoom, at_the_edge_of_the_screen_the_picture_is_smaller_whole_and_on_black) {
+    startWith(MagnificationFactor::x2, {10, 300});
+    const Pixel lens = lensAt({10, 300});
+    // Of 100 pixels 60 are on the screen; they stand in the middle.
+    EXPECT_TRUE(screen.waitForColor({lens.x + 100, lens.y + 100}, kBackground));
+    EXPECT_TRUE(screen.waitForColor({lens.x + 44, lens.y + 100}, kBackground));
+    EXPECT_TRUE(screen.waitForColor({lens.x + 156, lens.y + 100}, kBackground));
+    EXPECT_TRUE(screen.waitForColor({lens.x + 36, lens.y + 100}, {0, 0, 0}));
+    EXPECT_TRUE(screen.waitForColor({lens.x + 164, lens.y + 100}, {0, 0, 0}));
+}
+
+TEST_F(Zoom, the_corners_are_black_and_the_outline_is_faint) {
+    startWith(MagnificationFactor::x2);
+    const Pixel lens = lensAt({300, 300});
+    ASSERT_TRUE(screen.waitForColor({lens.x + 10, lens.y + 10}, {0, 0, 0}));
+    for (const Pixel corner : {Pixel{1, 1}, {198, 1}, {1, 198}, {198, 198}}) {
+        EXPECT_TRUE(screen.waitForColor({lens.x + corner.x, lens.y + corner.y}, {0, 0, 0}));
+    }
+}
+
+TEST_F(Zoom, clicks_go_through_the_lens_and_the_keyboard_stays) {
+    below.activate();
+    ASSERT_TRUE(eventually([this] { return below.hasKeyboard(); }));
+    canvas.fillWithPattern();
+    startWith(MagnificationFactor::x2);
+    ASSERT_TRUE(showsMagnified({300, 300}, 2));
+    EXPECT_TRUE(below.hasKeyboard());
+    // Within the lens where it stands when the button goes down.
+    input.click({600, 350});
+    EXPECT_TRUE(eventually([this] { return below.pressCount() == 1; }));
+}
+
+TEST_F(Zoom, switched_off_the_lens_is_gone_and_its_memory_is_given_back) {
+    canvas.fillWithPattern();
+    startWith(MagnificationFactor::x2);
+    ASSERT_TRUE(showsMagnified({300, 300}, 2));
+    EXPECT_GT(sharedSegments(), 0);
+    toggleZoom();
+    const Pixel lens = lensAt({300, 300});
+    EXPECT_TRUE(screen.waitForColor({lens.x + 100, lens.y + 100}, kBackground));
+    EXPECT_TRUE(eventually([this] { return sharedSegments() == 0; }));
+}
+
+TEST_F(Zoom, pressed_many_times_in_a_row_it_ends_in_the_right_state) {
+    canvas.fillWithPattern();
+    startWith(MagnificationFactor::x2);
+    for (int count = 0; count < 10; ++count) {
+        toggleZoom();
+    }
+    EXPECT_TRUE(showsMagnified({300, 300}, 2));
+    for (int count = 0; count < 9; ++count) {
+        toggleZoom();
+    }
+    const Pixel lens = lensAt({300, 300});
+    EXPECT_TRUE(screen.waitForColor({lens.x + 100, lens.y + 100}, kBackground));
+    EXPECT_TRUE(eventually([this] { return sharedSegments() == 0; }));
+}
+
+TEST_F(Zoom, the_spotlight_is_seen_in_the_lens) {
+    canvas.fillWithPattern();
+    prepare([](AppSettings& settings) {
+        settings.spotlightRadius = 20;
+        settings.spotlightIntensity = 1;
+    });
+    startWith(MagnificationFactor::x2);
+    ASSERT_TRUE(showsMagnified({300, 300}, 2));
+    input.chord({"Super_L", "Shift_L", "l"});
+    // The lens came first, so the dark lies over it. It is brought to the front again.
+    toggleZoom();
+    toggleZoom();
+    input.moveTo({301, 300});
+    const Pixel lens = lensAt({301, 300});
+    EXPECT_TRUE(screen.waitForPixel({lens.x + 103, lens.y + 97}, [](Rgb seen) {
+        return seen == magnified({103, 97}, {301, 300}, 2);
+    }));
+    EXPECT_TRUE(screen.waitForColor({lens.x + 20, lens.y + 100}, {0, 0, 0}));
+}
+
+} // namespace
+} // namespace quillon::test
