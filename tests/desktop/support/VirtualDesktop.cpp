@@ -123,6 +123,9 @@ void VirtualDesktop::startServer(const Options& options) {
     std::vector<std::string> command{"Xvfb",      "-displayfd", std::to_string(ends[1]),
                                      "-screen",   "0",          geometry,
                                      "-nolisten", "tcp",        "-noreset"};
+    if (!options.hasCursor) {
+        command.emplace_back("-nocursor");
+    }
     for (const std::string& extension : options.withoutExtensions) {
         command.insert(command.end(), {"-extension", extension});
     }

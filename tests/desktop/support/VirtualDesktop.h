@@ -20,6 +20,8 @@ public:
         int width = 1920;
         int height = 1080;
         int depth = 24;
+        /// Without one the server draws no pointer, as where the hardware shows it.
+        bool hasCursor = true;
         /// What the server is to do without, by the names of the extensions.
         std::vector<std::string> withoutExtensions = {};
         bool hasCompositor = true;
