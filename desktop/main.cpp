@@ -87,7 +87,9 @@ int run(QApplication& application, xcb_connection_t* connection) {
     QtGraphics graphics;
     QtEventMonitors eventMonitors(
         connection, qEnvironmentVariable("DISPLAY").toStdString(),
-        [&screens](QPoint pixel) { return screens.globalFromDevicePixel(pixel); });
+        {.toGlobal = [&](QPoint pixel) { return screens.globalFromDevicePixel(pixel); },
+         .holdsPointer =
+             [&] { return windows.holdPointer() || QApplication::activePopupWidget(); }});
     QtWorkspace workspace;
     X11ScreenCapture screenCapture(
         {qEnvironmentVariable("DISPLAY").toStdString(), mainQueue, qtFileWatch()}, [] {
@@ -102,6 +104,8 @@ int run(QApplication& application, xcb_connection_t* connection) {
         [&](const xcb_generic_event_t& event) { return instance.handleEvent(event); });
     const auto hotKeyEvents = events.addHandler(
         [&](const xcb_generic_event_t& event) { return hotKeys.handleEvent(event); });
+    const auto windowEvents = events.addHandler(
+        [&](const xcb_generic_event_t& event) { return windows.handleEvent(event); });
     instance.onActivated = [&] { system.sendAction("openSettings"); };
     screens.setChangeHandler([&] {
         host.notificationCenter().post(NSApplicationDidChangeScreenParametersNotification);

@@ -19,6 +19,10 @@ inline QPointF desktopFromDevicePixels(QPointF pixels, QPointF screenOrigin, qre
     return screenOrigin + (pixels - screenOrigin) / scale;
 }
 
+inline QPointF devicePixelsFromDesktop(QPointF point, QPointF screenOrigin, qreal scale) {
+    return screenOrigin + (point - screenOrigin) * scale;
+}
+
 inline CGPoint globalFromDesktop(QPointF point, const QRectF& primaryScreen) {
     return {point.x() - primaryScreen.left(), primaryScreen.bottom() - point.y()};
 }

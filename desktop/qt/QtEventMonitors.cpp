@@ -26,10 +26,10 @@ NSEventType typeOf(const RawPointerEvent& raw) {
 } // namespace
 
 QtEventMonitors::QtEventMonitors(xcb_connection_t* connection, std::string display,
-                                 ToGlobal toGlobal)
+                                 Surroundings surroundings)
     : m_connection(connection)
     , m_display(std::move(display))
-    , m_toGlobal(std::move(toGlobal))
+    , m_surroundings(std::move(surroundings))
     , m_ownIds(connection) {}
 
 std::optional<EventMonitorToken>
@@ -114,7 +114,7 @@ void QtEventMonitors::readRawEvents() {
 void QtEventMonitors::reportToGlobal(const RawPointerEvent& raw) {
     const PointerState pointer = m_rawEvents->pointer();
     const bool isDrag = raw.kind == RawPointerEvent::Kind::motion && pointer.isButtonHeld;
-    if (isDrag || m_rawEvents->goesTo(m_ownIds, pointer)) {
+    if (isDrag || m_surroundings.holdsPointer() || m_rawEvents->goesTo(m_ownIds, pointer)) {
         return;
     }
     m_reportedPlace = globalPlace(pointer);

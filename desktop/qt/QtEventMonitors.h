@@ -29,11 +29,16 @@ namespace quillon::desktop {
 /// 4. what came in the meantime waits for the next turn of the loop.
 class QtEventMonitors : public QObject, public EventMonitors {
 public:
-    /// Turns a place in device pixels, from the top left, into global coordinates.
-    using ToGlobal = std::function<CGPoint(QPoint)>;
+    /// What the rest of the host knows of the pointer.
+    struct Surroundings {
+        /// Turns a place in device pixels, from the top left, into global coordinates.
+        std::function<CGPoint(QPoint)> toGlobal;
+        /// Whether all events go to the program just now, wherever the pointer is.
+        std::function<bool()> holdsPointer;
+    };
 
     /// The connection is the one on which the program's windows are made.
-    QtEventMonitors(xcb_connection_t* connection, std::string display, ToGlobal toGlobal);
+    QtEventMonitors(xcb_connection_t* connection, std::string display, Surroundings surroundings);
 
     std::optional<EventMonitorToken>
     addGlobalMonitorForEventsMatchingMask(std::uint64_t mask, GlobalHandler handler) override;
@@ -50,12 +55,12 @@ private:
     void readRawEvents();
     void reportToGlobal(const RawPointerEvent& raw);
     CGPoint globalPlace(const PointerState& pointer) const {
-        return m_toGlobal(QPoint(pointer.x, pointer.y));
+        return m_surroundings.toGlobal(QPoint(pointer.x, pointer.y));
     }
 
     xcb_connection_t* m_connection;
     std::string m_display;
-    ToGlobal m_toGlobal;
+    Surroundings m_surroundings;
     ClientIds m_ownIds;
 
     MonitorList<GlobalHandler> m_globalMonitors;

@@ -1,13 +1,9 @@
 #include "desktop/qt/QtWindow.h"
 
-#include "desktop/qt/GlobalCoordinates.h"
 #include "desktop/qt/QtConversions.h"
 #include "desktop/x11/BlurBehind.h"
-#include "desktop/x11/Compositor.h"
 #include "desktop/x11/WindowShape.h"
 
-#include <QGuiApplication>
-#include <QScreen>
 #include <QTimer>
 #include <QWindow>
 
@@ -30,26 +26,30 @@ xcb_rectangle_t toRectangle(const QRect& rect) {
 
 } // namespace
 
-QtWindow::QtWindow(Window& window, xcb_connection_t* connection)
+QtWindow::QtWindow(Window& window, const Surroundings& surroundings)
     : m_window(window)
-    , m_connection(connection)
-    , m_keyboard(connection)
-    , m_widget([this] { takeKeyboard(); }) {
+    , m_surroundings(surroundings)
+    , m_keyboard(surroundings.connection)
+    , m_widget([this] { takeKeyboard(); })
+    , m_placement(m_widget, surroundings.connection)
+    , m_compositorChange(surroundings.compositor.changed.sink([this] { followCompositor(); })) {
     m_widget.setWindowFlags(Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint |
                             Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint | Qt::Tool);
     m_widget.onEditingChanged = [this] { giveBackKeyboardIfUnused(); };
     m_widget.onControlsPlaced = [this](const QRect& place) { blurBehind(place); };
     m_widget.onOutlined = [this](const QRegion& outline) { takeOutline(outline); };
     setFrame(window.frame());
+    followCompositor();
     setIgnoresMouseEvents(window.ignoresMouseEvents());
 }
 
-QtWindow::~QtWindow() = default;
+QtWindow::~QtWindow() {
+    noteGrab(false);
+}
 
 void QtWindow::setFrame(const CGRect& frame) {
-    const QScreen* primary = QGuiApplication::primaryScreen();
-    const QRectF primaryGeometry = primary ? primary->geometry() : QRectF();
-    m_widget.setGeometry(desktopFromGlobal(frame, primaryGeometry).toAlignedRect());
+    const auto& content = m_window.contentView();
+    m_placement.setFrame(frame.outset(content ? content->rootView->overflow() : 0));
 }
 
 void QtWindow::display() {
@@ -57,13 +57,14 @@ void QtWindow::display() {
 }
 
 void QtWindow::setIgnoresMouseEvents(bool ignores) {
-    followCompositor();
-    setInputRegion(m_connection, nativeWindow(),
+    grabPointerIfNeeded();
+    setInputRegion(m_surroundings.connection, nativeWindow(),
                    ignores ? InputRegion::empty : InputRegion::window);
     giveBackKeyboardIfUnused();
 }
 
 void QtWindow::setContentView(const std::shared_ptr<HostingView>& view) {
+    setFrame(m_window.frame());
     m_widget.setContentView(view);
 }
 
@@ -71,15 +72,14 @@ void QtWindow::orderFrontRegardless() {
     if (m_window.isOpaque()) {
         m_widget.setBackgroundColor(toQColor(m_window.backgroundColor()));
     }
-    m_widget.show();
-    m_widget.raise();
-    followCompositor();
+    m_placement.bringToFront();
+    grabPointerIfNeeded();
 }
 
 void QtWindow::followCompositor() {
-    const bool composited = isCompositorRunning(m_connection);
+    const bool composited = m_surroundings.compositor.isRunning();
     if (composited && !m_widget.isComposited()) {
-        clearOutline(m_connection, nativeWindow());
+        clearOutline(m_surroundings.connection, nativeWindow());
     }
     m_widget.setComposited(composited);
     grabPointerIfNeeded();
@@ -94,7 +94,7 @@ void QtWindow::grabPointerIfNeeded() {
         return;
     }
     const bool done = m_widget.windowHandle()->setMouseGrabEnabled(wanted);
-    m_grabsPointer = wanted && done;
+    noteGrab(wanted && done);
     if (wanted && !done) {
         // Somebody else holds a button down; that passes.
         QTimer::singleShot(kGrabAgain, &m_widget, [this] { grabPointerIfNeeded(); });
@@ -114,8 +114,13 @@ void QtWindow::confirmGrab() {
 }
 
 void QtWindow::blurBehind(const QRect& place) {
-    setBlurBehind(m_connection, nativeWindow(),
+    setBlurBehind(m_surroundings.connection, nativeWindow(),
                   place.isEmpty() ? std::nullopt : std::optional(toRectangle(place)));
+}
+
+void QtWindow::noteGrab(bool grabs) {
+    m_surroundings.pointerHolders += (grabs ? 1 : 0) - (m_grabsPointer ? 1 : 0);
+    m_grabsPointer = grabs;
 }
 
 void QtWindow::takeOutline(const QRegion& outline) {
@@ -123,7 +128,7 @@ void QtWindow::takeOutline(const QRegion& outline) {
     for (const QRect& rect : outline) {
         rectangles.push_back(toRectangle(rect));
     }
-    setOutline(m_connection, nativeWindow(), rectangles);
+    setOutline(m_surroundings.connection, nativeWindow(), rectangles);
 }
 
 void QtWindow::makeKeyAndOrderFront() {
@@ -134,6 +139,7 @@ void QtWindow::makeKeyAndOrderFront() {
 void QtWindow::orderOut() {
     m_keyboard.giveBack(nativeWindow());
     m_widget.hide();
+    grabPointerIfNeeded();
 }
 
 void QtWindow::takeKeyboard() {

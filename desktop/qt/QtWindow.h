@@ -1,7 +1,10 @@
 #pragma once
 
 #include "desktop/qt/ContentWidget.h"
+#include "desktop/qt/WindowPlacement.h"
+#include "desktop/x11/CompositorWatch.h"
 #include "desktop/x11/KeyboardFocus.h"
+#include "foundation/Cancellable.h"
 #include "platform/Window.h"
 
 #include <xcb/xcb.h>
@@ -16,7 +19,15 @@ namespace quillon::desktop {
 /// keyboard; once it lets the pointer through and no text is being typed, the keyboard goes back.
 class QtWindow : public WindowBackend {
 public:
-    QtWindow(Window& window, xcb_connection_t* connection);
+    /// What the windows of the program share.
+    struct Surroundings {
+        xcb_connection_t* connection;
+        CompositorWatch& compositor;
+        /// How many windows hold the pointer as a whole.
+        int& pointerHolders;
+    };
+
+    QtWindow(Window& window, const Surroundings& surroundings);
     ~QtWindow() override;
 
     void setFrame(const CGRect& frame) override;
@@ -28,10 +39,10 @@ public:
     void orderOut() override;
 
 private:
-    /// Looks whether there is a compositor; done whenever the window's input or order changes.
     void followCompositor();
     void grabPointerIfNeeded();
     void confirmGrab();
+    void noteGrab(bool grabs);
     void takeOutline(const QRegion& outline);
     void blurBehind(const QRect& place);
     void takeKeyboard();
@@ -39,10 +50,12 @@ private:
     xcb_window_t nativeWindow() const { return static_cast<xcb_window_t>(m_widget.winId()); }
 
     Window& m_window;
-    xcb_connection_t* m_connection;
+    Surroundings m_surroundings;
     KeyboardFocus m_keyboard;
     ContentWidget m_widget;
+    WindowPlacement m_placement;
     bool m_grabsPointer = false;
+    Cancellable m_compositorChange;
 };
 
 } // namespace quillon::desktop

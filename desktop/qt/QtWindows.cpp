@@ -5,7 +5,8 @@
 namespace quillon::desktop {
 
 std::unique_ptr<WindowBackend> QtWindows::makeWindow(Window& window) {
-    return std::make_unique<QtWindow>(window, m_connection);
+    return std::make_unique<QtWindow>(
+        window, QtWindow::Surroundings{m_connection, m_compositor, m_pointerHolders});
 }
 
 } // namespace quillon::desktop

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/x11/CompositorWatch.h"
 #include "platform/Window.h"
 
 #include <xcb/xcb.h>
@@ -10,12 +11,22 @@ namespace quillon::desktop {
 class QtWindows : public Windows {
 public:
     explicit QtWindows(xcb_connection_t* connection)
-        : m_connection(connection) {}
+        : m_connection(connection)
+        , m_compositor(connection) {}
 
     std::unique_ptr<WindowBackend> makeWindow(Window& window) override;
 
+    /// Whether a window has the pointer wherever on the screen that is.
+    bool holdPointer() const { return m_pointerHolders > 0; }
+
+    /// To be given every event of the connection, in order. True when the event was meant for the
+    /// windows and should go no further.
+    bool handleEvent(const xcb_generic_event_t& event) { return m_compositor.handleEvent(event); }
+
 private:
     xcb_connection_t* m_connection;
+    CompositorWatch m_compositor;
+    int m_pointerHolders = 0;
 };
 
 } // namespace quillon::desktop

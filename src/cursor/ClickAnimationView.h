@@ -37,6 +37,7 @@ public:
     CGSize frameSize() const { return {2 * m_size, 2 * m_size}; }
 
     void onAppear() override { startAnimation(); }
+    CGFloat overflow() const override { return (frameSize().width - m_size) / 2; }
     void layout(CGSize size, CGFloat scale) override;
     Damage takeDamage() override;
     void paint(GraphicsContext& context, const CGRect& rect) override;

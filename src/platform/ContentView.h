@@ -50,6 +50,9 @@ public:
 
     /// The window has come on the screen.
     virtual void onAppear() {}
+    /// How far the picture reaches beyond the window's frame on every side, in points. The host
+    /// makes room for it on the screen, and the view's size is larger by it.
+    virtual CGFloat overflow() const { return 0; }
     /// The view's size, and the device pixels to a point.
     virtual void layout(CGSize size, CGFloat scale) = 0;
 

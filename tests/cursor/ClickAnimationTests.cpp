@@ -67,8 +67,9 @@ TEST_F(ClickAnimationTest, the_rotation_runs_evenly_for_a_ripple_and_not_for_a_p
     EXPECT_EQ(view->rotation(), 0);
 }
 
-TEST_F(ClickAnimationTest, its_frame_is_twice_its_size) {
+TEST_F(ClickAnimationTest, its_frame_is_twice_its_size_and_reaches_beyond_its_window) {
     EXPECT_EQ(make(ClickAnimationType::pulse).frameSize(), (CGSize{120, 120}));
+    EXPECT_EQ(view->overflow(), 30);
 }
 
 TEST_F(ClickAnimationTest, a_pulse_is_one_circle_that_grows_from_6_to_90_points) {

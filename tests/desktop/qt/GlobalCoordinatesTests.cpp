@@ -48,6 +48,7 @@ TEST(GlobalCoordinates, the_way_back_gives_what_came_in) {
 TEST(GlobalCoordinates, device_pixels_are_scaled_from_the_origin_of_their_screen) {
     EXPECT_EQ(desktopFromDevicePixels({300, 100}, {0, 0}, 2), QPointF(150, 50));
     EXPECT_EQ(desktopFromDevicePixels({3840 + 300, 100}, {3840, 40}, 1.5), QPointF(3840 + 200, 80));
+    EXPECT_EQ(devicePixelsFromDesktop({3840 + 200, 80}, {3840, 40}, 1.5), QPointF(3840 + 300, 100));
 }
 
 } // namespace quillon::test

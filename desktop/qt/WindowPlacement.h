@@ -1,0 +1,45 @@
+#pragma once
+
+#include "foundation/Geometry.h"
+
+#include <QRectF>
+#include <QWidget>
+
+#include <xcb/xcb.h>
+
+namespace quillon::desktop {
+
+/// Where a window stands on the desktop, and above what.
+///
+/// A window on the screen that moves without changing its size, such as one that follows the
+/// pointer, costs the server one request, which carries its new place and its stacking together.
+/// Nothing of it is painted for that. The toolkit hears of the place from the server.
+class WindowPlacement {
+public:
+    WindowPlacement(QWidget& widget, xcb_connection_t* connection);
+
+    /// In global coordinates. A window on the screen follows with the next `bringToFront`, or by
+    /// itself in the next turn of the loop.
+    void setFrame(const CGRect& frame);
+    /// Shows the window if it is hidden.
+    void bringToFront();
+
+private:
+    enum class Stacking { kept, onTop };
+
+    /// True when the server alone can move the window to its frame.
+    bool onlyMoves() const;
+    void resize();
+    void place(Stacking stacking);
+    void placeLater();
+    QSize size() const;
+
+    QWidget& m_widget;
+    xcb_connection_t* m_connection;
+    /// In the desktop's own coordinates.
+    QRectF m_frame;
+    bool m_isPlaced = true;
+    bool m_isTurnPending = false;
+};
+
+} // namespace quillon::desktop
