@@ -1,0 +1,344 @@
+#include "desktop/program/ProgramTest.h"
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace quillon::test {
+namespace {
+
+/// The built-in look of the halo: a cyan ring of 34 points, 3 thick.
+constexpr Rgb kHalo{50, 173, 230};
+constexpr int kRadius = 17;
+
+bool isHalo(Rgb seen) {
+    return isNear(seen, kHalo, 30);
+}
+
+/// How often all threads of a process have come to the processor of their own accord.
+long wakeUpsOf(pid_t process) {
+    long sum = 0;
+    const std::string tasks = "/proc/" + std::to_string(process) + "/task";
+    for (const auto& thread : std::filesystem::directory_iterator(tasks)) {
+        std::ifstream status(thread.path() / "status");
+        const std::string name = "voluntary_ctxt_switches:";
+        for (std::string line; std::getline(status, line);) {
+            if (line.starts_with(name)) {
+                sum += std::stol(line.substr(name.size()));
+            }
+        }
+    }
+    return sum;
+}
+
+class CursorHalo : public ProgramTest {
+protected:
+    CursorHalo() = default;
+    using ProgramTest::ProgramTest;
+
+    void toggleHalo() { input.chord({"Super_L", "Shift_L", "h"}); }
+
+    /// Starts the program, switches the halo on and brings it to `place`.
+    void startWithHaloAt(Pixel place) {
+        start();
+        toggleHalo();
+        ASSERT_TRUE(haloComesTo(place));
+    }
+    /// Moves the pointer about until the halo follows, and to `place` at last.
+    bool haloComesTo(Pixel place) {
+        return eventually([&] {
+            input.moveTo({place.x + 1, place.y});
+            input.moveTo(place);
+            return hasRing(place, std::chrono::milliseconds(100));
+        });
+    }
+    /// Whether the ring stands round `place`, which is the upper left corner of a pixel.
+    bool hasRing(Pixel place, std::chrono::milliseconds bound = defaultBound) {
+        const auto isThere = [&] {
+            return isHalo(screen.pixel({place.x + kRadius - 1, place.y})) &&
+                   isHalo(screen.pixel({place.x - kRadius, place.y})) &&
+                   isHalo(screen.pixel({place.x, place.y + kRadius - 1})) &&
+                   isHalo(screen.pixel({place.x, place.y - kRadius})) &&
+                   screen.pixel(place) == kBackground;
+        };
+        return eventually(isThere, bound);
+    }
+    bool hasNoRing(Pixel place) {
+        return screen.waitForPixel({place.x + kRadius - 1, place.y},
+                                   [](Rgb seen) { return seen == kBackground; });
+    }
+    bool keepsRing(Pixel place) {
+        return stays([&] { return hasRing(place, std::chrono::milliseconds(0)); },
+                     std::chrono::milliseconds(200));
+    }
+
+    /// Where a window stands on the screen.
+    std::pair<int, int> cornerOf(xcb_window_t window) {
+        const XOwned<xcb_get_geometry_reply_t> geometry(
+            xcb_get_geometry_reply(desktop.connection().get(),
+                                   xcb_get_geometry(desktop.connection().get(), window), nullptr));
+        return {geometry->x, geometry->y};
+    }
+
+    /// The windows on the screen with that side.
+    std::vector<xcb_window_t> squareWindows(int side) {
+        std::vector<xcb_window_t> found;
+        xcb_connection_t* connection = desktop.connection().get();
+        const XOwned<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(
+            connection, xcb_query_tree(connection, desktop.connection().root()), nullptr));
+        const xcb_window_t* children = xcb_query_tree_children(tree.get());
+        for (int index = 0; index < xcb_query_tree_children_length(tree.get()); ++index) {
+            const XOwned<xcb_get_geometry_reply_t> geometry(xcb_get_geometry_reply(
+                connection, xcb_get_geometry(connection, children[index]), nullptr));
+            const XOwned<xcb_get_window_attributes_reply_t> attributes(
+                xcb_get_window_attributes_reply(
+                    connection, xcb_get_window_attributes(connection, children[index]), nullptr));
+            if (geometry && attributes && geometry->width == side && geometry->height == side &&
+                attributes->map_state == XCB_MAP_STATE_VIEWABLE) {
+                found.push_back(children[index]);
+            }
+        }
+        return found;
+    }
+};
+
+TEST_F(CursorHalo, the_ring_is_centred_on_the_pointer_and_follows_it_without_a_trace) {
+    startWithHaloAt({300, 300});
+    for (const Pixel place : {Pixel{301, 300}, Pixel{450, 411}, Pixel{600, 120}}) {
+        input.moveTo(place);
+        EXPECT_TRUE(hasRing(place));
+    }
+    EXPECT_TRUE(hasNoRing({300, 300}));
+    EXPECT_TRUE(hasNoRing({450, 411}));
+}
+
+TEST_F(CursorHalo, the_ring_has_a_soft_glow_that_fades_inward_and_outward) {
+    startWithHaloAt({300, 300});
+    // On the diagonal there is room for all of it: the stroke reaches to 18.5.
+    const auto onDiagonal = [&](double distance) {
+        const int along = static_cast<int>(distance * 0.7071);
+        return screen.pixel({300 + along, 300 + along});
+    };
+    EXPECT_TRUE(isHalo(onDiagonal(17.2)));
+    EXPECT_GT(onDiagonal(20).green, kBackground.green + 4);
+    EXPECT_LT(onDiagonal(20).green, kHalo.green - 40);
+    EXPECT_GT(onDiagonal(14).green, kBackground.green + 4);
+    EXPECT_EQ(onDiagonal(4), kBackground);
+    EXPECT_EQ(onDiagonal(30), kBackground);
+}
+
+TEST_F(CursorHalo, a_larger_size_keeps_the_pointer_in_the_middle) {
+    prepare([](AppSettings& settings) { settings.haloSize = 81; });
+    startWithHaloAt({300, 300});
+    EXPECT_EQ(squareWindows(81).size(), 1U);
+}
+
+TEST_F(CursorHalo, clicks_reach_the_window_below_and_the_halo_goes_along) {
+    startWithHaloAt({300, 300});
+    for (const int button : {1, 2, 3}) {
+        const Pixel place{300 + 50 * button, 300};
+        input.click(place, button);
+        EXPECT_TRUE(hasRing(place));
+    }
+    EXPECT_TRUE(eventually([this] { return below.pressCount() == 3; }));
+    EXPECT_TRUE(squareWindows(120).empty());
+}
+
+TEST_F(CursorHalo, a_drag_holds_it_still_until_the_button_is_up) {
+    startWithHaloAt({300, 300});
+    input.press();
+    ASSERT_TRUE(keepsRing({300, 300}));
+    for (int x = 305; x <= 500; x += 5) {
+        input.moveTo({x, 300});
+    }
+    EXPECT_TRUE(keepsRing({300, 300}));
+    input.release();
+    input.moveTo({502, 300});
+    EXPECT_TRUE(hasRing({502, 300}));
+}
+
+TEST_F(CursorHalo, a_burst_ends_at_the_newest_place) {
+    startWithHaloAt({100, 300});
+    for (int round = 0; round < 5; ++round) {
+        for (int x = 100; x <= 700; ++x) {
+            input.moveTo({x, 300});
+        }
+        EXPECT_TRUE(hasRing({700, 300}));
+    }
+}
+
+TEST_F(CursorHalo, off_it_is_gone_and_the_pointer_wakes_nobody) {
+    startWithHaloAt({300, 300});
+    const pid_t process = program->process().pid();
+    const auto wakeUpsOfMoves = [&] {
+        const long before = wakeUpsOf(process);
+        for (int x = 100; x < 300; ++x) {
+            input.moveTo({x, 400});
+        }
+        return wakeUpsOf(process) - before;
+    };
+    EXPECT_GT(wakeUpsOfMoves(), 20);
+    ASSERT_TRUE(hasRing({299, 400}));
+    toggleHalo();
+    ASSERT_TRUE(eventually([this] { return squareWindows(40).empty(); }));
+    EXPECT_TRUE(hasNoRing({299, 400}));
+    EXPECT_TRUE(eventually([&] { return wakeUpsOfMoves() == 0; }));
+}
+
+TEST_F(CursorHalo, ten_quick_toggles_end_where_they_began) {
+    startWithHaloAt({300, 300});
+    for (int toggle = 0; toggle < 10; ++toggle) {
+        toggleHalo();
+    }
+    ASSERT_TRUE(haloComesTo({500, 300}));
+    toggleHalo();
+    ASSERT_TRUE(hasNoRing({500, 300}));
+    stop();
+    EXPECT_FALSE(
+        stored<bool>([](AppSettings& settings) -> bool { return settings.isCursorHaloEnabled; }));
+}
+
+TEST_F(CursorHalo, a_move_is_one_request_that_carries_place_and_stacking) {
+    startWithHaloAt({300, 300});
+    const auto windows = squareWindows(40);
+    ASSERT_EQ(windows.size(), 1U);
+    XConnection observer(desktop.display());
+    const std::uint32_t structure = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+    xcb_change_window_attributes(observer.get(), windows.front(), XCB_CW_EVENT_MASK, &structure);
+    observer.synchronise();
+    ProbeWindow above(desktop.display(), {400, 200, 200, 200}, {90, 60, 40});
+    constexpr int kMoves = 20;
+    for (int move = 1; move <= kMoves; ++move) {
+        input.moveTo({300 + move * 5, 300});
+        ASSERT_TRUE(screen.waitForPixel({300 + move * 5 - kRadius, 300}, isHalo));
+    }
+    observer.synchronise();
+    int requests = 0;
+    while (const XOwned<xcb_generic_event_t> event{xcb_poll_for_event(observer.get())}) {
+        requests += (event->response_type & 0x7F) == XCB_CONFIGURE_NOTIFY ? 1 : 0;
+    }
+    EXPECT_EQ(requests, kMoves);
+}
+
+TEST_F(CursorHalo, it_stands_above_a_film_on_the_whole_screen_and_on_every_desktop) {
+    startWithHaloAt({300, 300});
+    below.fillScreen();
+    EXPECT_TRUE(haloComesTo({300, 20}));
+    desktop.showWorkspace(1);
+    input.moveTo({500, 500});
+    EXPECT_TRUE(screen.waitForPixel({500 + kRadius - 1, 500}, isHalo));
+}
+
+TEST_F(CursorHalo, it_never_takes_the_keyboard) {
+    below.activate();
+    ASSERT_TRUE(eventually([this] { return below.hasKeyboard(); }));
+    startWithHaloAt({300, 300});
+    input.click({320, 300});
+    EXPECT_TRUE(below.hasKeyboard());
+    toggleHalo();
+    ASSERT_TRUE(hasNoRing({320, 300}));
+    EXPECT_TRUE(below.hasKeyboard());
+}
+
+TEST_F(CursorHalo, a_click_in_the_overlay_plays_an_animation_that_is_gone_afterwards) {
+    startAnnotating();
+    toggleHalo();
+    // Another program's window shows when the halo is live: the overlay catches the pointer.
+    for (const int button : {1, 3}) {
+        ASSERT_TRUE(eventually([&] {
+            input.click({500, 300}, button);
+            return eventually([this] { return !squareWindows(120).empty(); },
+                              std::chrono::milliseconds(300));
+        }));
+        EXPECT_TRUE(eventually([this] { return squareWindows(120).empty(); }));
+    }
+    EXPECT_EQ(below.pressCount(), 0);
+}
+
+TEST_F(CursorHalo, the_circle_of_a_click_grows_beyond_the_window_of_the_halo_whole) {
+    startAnnotating();
+    toggleHalo();
+    ASSERT_TRUE(eventually([&] {
+        input.click({500, 300}, 3);
+        // Diameters of more than 60 are seen in full: to the side as well as on the diagonal.
+        return eventually(
+            [this] {
+                return screen.pixel({500 + 38, 300}).green > kBackground.green + 8;
+            },
+            std::chrono::milliseconds(600));
+    }));
+    EXPECT_TRUE(eventually([this] { return squareWindows(120).empty(); }));
+    EXPECT_TRUE(showsBackground({538, 300}));
+}
+
+TEST_F(CursorHalo, a_middle_click_in_the_overlay_plays_nothing) {
+    startAnnotating();
+    toggleHalo();
+    ASSERT_TRUE(eventually([&] {
+        input.click({500, 300}, 3);
+        return eventually([this] { return !squareWindows(120).empty(); },
+                          std::chrono::milliseconds(300));
+    }));
+    ASSERT_TRUE(eventually([this] { return squareWindows(120).empty(); }));
+    input.click({500, 300}, 2);
+    EXPECT_TRUE(
+        stays([this] { return squareWindows(120).empty(); }, std::chrono::milliseconds(300)));
+}
+
+TEST_F(CursorHalo, the_program_ends_quietly_in_the_middle_of_an_animation) {
+    startAnnotating();
+    toggleHalo();
+    ASSERT_TRUE(eventually([&] {
+        input.click({500, 300}, 3);
+        return eventually([this] { return !squareWindows(120).empty(); },
+                          std::chrono::milliseconds(300));
+    }));
+    stop();
+    EXPECT_EQ(program->process().standardError(), "");
+}
+
+TEST_F(CursorHalo, a_compositor_that_goes_leaves_a_ring_with_the_screen_inside) {
+    startWithHaloAt({300, 300});
+    desktop.stopCompositor();
+    EXPECT_TRUE(haloComesTo({400, 300}));
+    EXPECT_TRUE(showsBackground({400 + 18, 300 + 18}));
+    EXPECT_TRUE(showsBackground({300 + 16, 300}));
+}
+
+class CursorHaloWithoutCompositor : public CursorHalo {
+protected:
+    CursorHaloWithoutCompositor()
+        : CursorHalo({.width = 900, .height = 600, .hasCompositor = false}) {}
+};
+
+TEST_F(CursorHaloWithoutCompositor, the_screen_is_seen_inside_and_round_the_ring) {
+    startWithHaloAt({300, 300});
+    EXPECT_TRUE(showsBackground({318, 318}));
+    input.moveTo({500, 400});
+    EXPECT_TRUE(hasRing({500, 400}));
+    EXPECT_TRUE(showsBackground({518, 418}));
+    EXPECT_TRUE(showsBackground({316, 300}));
+    input.click({500, 400});
+    EXPECT_TRUE(eventually([this] { return below.pressCount() == 1; }));
+}
+
+TEST_F(CursorHaloWithoutCompositor, the_overlay_that_holds_the_pointer_holds_the_halo_still) {
+    startWithHaloAt({300, 300});
+    toggleAnnotation();
+    ASSERT_TRUE(eventually([this] {
+        const int before = below.pressCount();
+        input.click({700, 500}, 3);
+        return eventually([this] { return !squareWindows(120).empty(); },
+                          std::chrono::milliseconds(300)) &&
+               below.pressCount() == before;
+    }));
+    const auto before = cornerOf(squareWindows(40).at(0));
+    input.moveTo({600, 200});
+    EXPECT_TRUE(stays([&] { return cornerOf(squareWindows(40).at(0)) == before; },
+                      std::chrono::milliseconds(200)));
+}
+
+} // namespace
+} // namespace quillon::test
