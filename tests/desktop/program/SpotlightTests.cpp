@@ -87,6 +87,7 @@ TEST_F(Spotlight, it_does_not_take_the_keyboard) {
 
 TEST_F(Spotlight, while_a_button_is_held_the_circle_stays) {
     startAt({450, 300});
+    ASSERT_TRUE(isDimmed({10, 590}));
     ASSERT_TRUE(isClear({450, 300}));
     input.press();
     // The window manager looks at the press first, and holds the pointer up meanwhile.
