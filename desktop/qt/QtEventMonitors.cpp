@@ -2,12 +2,18 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QTimerEvent>
 
+#include <chrono>
 #include <utility>
+#include <vector>
 
 namespace quillon::desktop {
 
 namespace {
+
+/// Quicker than any display shows its pictures.
+constexpr std::chrono::milliseconds kRest{4};
 
 NSEventType typeOf(const RawPointerEvent& raw) {
     if (raw.kind == RawPointerEvent::Kind::motion) {
@@ -80,14 +86,13 @@ bool QtEventMonitors::event(QEvent* event) {
         return QObject::event(event);
     }
     if (m_globalMonitors.isEmpty()) {
+        m_rest.stop();
         m_notifier.reset();
         m_rawEvents.reset();
-        m_waiting.clear();
     }
     if (m_localMonitors.isEmpty()) {
         m_ownPresses.reset();
     }
-    readRawEvents();
     return true;
 }
 
@@ -99,15 +104,28 @@ void QtEventMonitors::readRawEvents() {
         m_notifier.reset();
         return;
     }
-    m_rawEvents->take(m_waiting);
-    for (const RawPointerEvent& raw : std::exchange(m_waiting, {})) {
+    std::vector<RawPointerEvent> events;
+    m_rawEvents->take(events);
+    if (events.empty()) {
+        return;
+    }
+    for (const RawPointerEvent& raw : events) {
         reportToGlobal(raw);
     }
-    // An answer of the server brings along what came before it, of which the descriptor then tells
-    // nothing.
-    m_rawEvents->take(m_waiting);
-    if (!m_waiting.empty()) {
-        QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+    m_notifier->setEnabled(false);
+    m_rest.start(kRest.count(), Qt::PreciseTimer, this);
+}
+
+void QtEventMonitors::timerEvent(QTimerEvent* event) {
+    if (event->timerId() != m_rest.timerId()) {
+        return;
+    }
+    m_rest.stop();
+    if (m_notifier) {
+        m_notifier->setEnabled(true);
+        // An answer of the server has brought along what came before it, of which the descriptor
+        // tells nothing.
+        readRawEvents();
     }
 }
 

@@ -5,6 +5,7 @@
 #include "desktop/x11/RawPointerEvents.h"
 #include "platform/EventMonitors.h"
 
+#include <QBasicTimer>
 #include <QObject>
 #include <QPoint>
 #include <QSocketNotifier>
@@ -14,7 +15,6 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace quillon::desktop {
 
@@ -26,7 +26,8 @@ namespace quillon::desktop {
 /// 2. the server is asked where the pointer is now, and which window lies under it;
 /// 3. unless that window is the program's own, the monitors hear of it; a motion with a button held
 ///    is dropped;
-/// 4. what came in the meantime waits for the next turn of the loop.
+/// 4. the connection rests for a moment. What comes in the meantime waits, so that a mouse that
+///    reports a thousand times a second is followed as often as a display can show.
 class QtEventMonitors : public QObject, public EventMonitors {
 public:
     /// What the rest of the host knows of the pointer.
@@ -49,6 +50,7 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
 
 private:
     bool listen();
@@ -70,7 +72,7 @@ private:
     std::unique_ptr<RawPointerEvents> m_rawEvents;
     std::unique_ptr<QSocketNotifier> m_notifier;
     std::unique_ptr<OwnPresses> m_ownPresses;
-    std::vector<RawPointerEvent> m_waiting;
+    QBasicTimer m_rest;
     /// Where the pointer is, while that is being reported.
     std::optional<CGPoint> m_reportedPlace;
 };
