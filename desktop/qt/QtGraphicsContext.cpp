@@ -90,10 +90,21 @@ void QtGraphicsContext::clear(const CGRect& rect) {
     m_painter.setCompositionMode(mode);
 }
 
+void QtGraphicsContext::fillRect(const CGRect& rect, const Color& color) {
+    m_painter.setRenderHint(QPainter::Antialiasing, false);
+    m_painter.fillRect(toQRectF(rect), toQColor(color));
+    m_painter.setRenderHint(QPainter::Antialiasing);
+}
+
 void QtGraphicsContext::draw(const Bitmap& bitmap, const CGRect& rect) {
+    draw(bitmap, rect, {});
+}
+
+void QtGraphicsContext::draw(const Bitmap& bitmap, const CGRect& rect, CGPoint origin) {
     const QImage& image = static_cast<const QtBitmap&>(bitmap).image();
-    const QRect pixels = devicePixels(rect, m_scale).intersected(image.rect());
-    drawPixels(image, pixels, pixels.topLeft());
+    const QPoint corner(qRound(origin.x * m_scale), qRound(origin.y * m_scale));
+    const QRect pixels = devicePixels(rect, m_scale).intersected(image.rect().translated(corner));
+    drawPixels(image, pixels.translated(-corner), pixels.topLeft());
 }
 
 void QtGraphicsContext::draw(const CGImage& image, const CGRect& rect) {

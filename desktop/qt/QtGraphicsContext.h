@@ -29,7 +29,9 @@ public:
                           const Shadow& shadow) override;
     void drawText(const Text& text, CGPoint at, Anchor anchor) override;
     void clear(const CGRect& rect) override;
+    void fillRect(const CGRect& rect, const Color& color) override;
     void draw(const Bitmap& bitmap, const CGRect& rect) override;
+    void draw(const Bitmap& bitmap, const CGRect& rect, CGPoint origin) override;
     void draw(const CGImage& image, const CGRect& rect) override;
 
 protected:

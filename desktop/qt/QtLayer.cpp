@@ -71,6 +71,14 @@ void QtLayer::clear(const CGRect& rect) {
     ownContext().clear(rect);
 }
 
+void QtLayer::fillRect(const CGRect& rect, const Color& color) {
+    perform([rect, color](GraphicsContext& context) { context.fillRect(rect, color); });
+}
+
+void QtLayer::draw(const Bitmap& bitmap, const CGRect& rect, CGPoint origin) {
+    ownContext().draw(bitmap, rect, origin);
+}
+
 void QtLayer::draw(const Bitmap& bitmap, const CGRect& rect) {
     ownContext().draw(bitmap, rect);
 }

@@ -73,8 +73,12 @@ public:
 
     /// Replaces what stands in `rect` with full transparency, whatever the blend mode.
     virtual void clear(const CGRect& rect) = 0;
+    /// Fills a rectangle of whole device pixels.
+    virtual void fillRect(const CGRect& rect, const Color& color) = 0;
     /// Draws the part of a bitmap that lies in `rect` where it stands, pixel for pixel.
     virtual void draw(const Bitmap& bitmap, const CGRect& rect) = 0;
+    /// The same of a bitmap whose corner stands at `origin`, a whole number of device pixels.
+    virtual void draw(const Bitmap& bitmap, const CGRect& rect, CGPoint origin) = 0;
     /// Draws the picture stretched over `rect` with hard pixels: nothing is interpolated and no
     /// edge is softened.
     virtual void draw(const CGImage& image, const CGRect& rect) = 0;

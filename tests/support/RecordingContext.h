@@ -13,7 +13,7 @@ namespace quillon::test {
 
 /// One thing that was drawn, with the state in force.
 struct Drawing {
-    enum class Kind { fill, fillEvenOdd, stroke, text, clear, bitmap, image };
+    enum class Kind { fill, fillEvenOdd, fillRect, stroke, text, clear, bitmap, image };
 
     Kind kind;
     Path path;
@@ -69,8 +69,16 @@ public:
         drawing.anchor = anchor;
     }
     void clear(const CGRect& rect) override { record(Drawing::Kind::clear).rect = rect; }
-    void draw(const Bitmap&, const CGRect& rect) override {
-        record(Drawing::Kind::bitmap).rect = rect;
+    void fillRect(const CGRect& rect, const Color& color) override {
+        auto& drawing = record(Drawing::Kind::fillRect);
+        drawing.rect = rect;
+        drawing.color = color;
+    }
+    void draw(const Bitmap& bitmap, const CGRect& rect) override { draw(bitmap, rect, {}); }
+    void draw(const Bitmap&, const CGRect& rect, CGPoint origin) override {
+        auto& drawing = record(Drawing::Kind::bitmap);
+        drawing.rect = rect;
+        drawing.at = origin;
     }
     void draw(const CGImage& image, const CGRect& rect) override {
         auto& drawing = record(Drawing::Kind::image);
