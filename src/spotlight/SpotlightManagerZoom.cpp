@@ -57,8 +57,8 @@ void SpotlightManager::updateZoomPosition(CGPoint cursor) {
     const CGRect frame =
         zoomLensFrame(cursor, m_zoomWindow->frame().width,
                       {settings.zoomWindowOffsetX, settings.zoomWindowOffsetY}, visibleFrame);
-    // Displayed anew also where it is pinned: the screen changes, and a frame with the pointer's new
-    // surroundings comes.
+    // Displayed anew also where it is pinned: the screen changes, and a frame with the pointer's
+    // new surroundings comes.
     m_zoomWindow->setFrame(frame, /*display=*/true, /*animate=*/false);
 }
 

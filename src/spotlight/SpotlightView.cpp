@@ -1,27 +1,40 @@
 #include "spotlight/SpotlightView.h"
 
+#include "platform/Host.h"
+#include "spotlight/CircleDamage.h"
+
+#include <cmath>
 #include <utility>
 
 namespace quillon {
 
+namespace {
+
+Circle circleOf(const SpotlightView::Value& value) {
+    return {value.cursorLocation, std::abs(value.radius)};
+}
+
+} // namespace
+
 SpotlightView::SpotlightView(const Value& value)
-    : m_value(value) {}
+    : m_value(value)
+    , m_picture(Host::current().graphics()) {}
 
 void SpotlightView::setValue(const Value& value) {
     if (value == m_value) {
         return;
     }
-    if (value.intensity != m_value.intensity) {
-        m_damage.add(bounds());
+    if (value.intensity == m_value.intensity) {
+        m_damage.add(differenceOfCircles(circleOf(m_value), circleOf(value)));
     } else {
-        m_damage.add(circle());
+        m_damage.add(bounds());
     }
     m_value = value;
-    m_damage.add(circle());
     setNeedsUpdate();
 }
 
-void SpotlightView::layout(CGSize size, CGFloat /*scale*/) {
+void SpotlightView::layout(CGSize size, CGFloat scale) {
+    m_scale = scale;
     m_size = size;
     m_damage.add(bounds());
     setNeedsUpdate();
@@ -31,17 +44,9 @@ Damage SpotlightView::takeDamage() {
     return std::exchange(m_damage, {});
 }
 
-void SpotlightView::paint(GraphicsContext& context, const CGRect& /*rect*/) {
-    Path mask;
-    mask.addRect(bounds());
-    mask.addEllipse(circle());
-    context.fillEvenOdd(mask, Color::black.opacity(m_value.intensity));
-}
-
-CGRect SpotlightView::circle() const {
-    const auto& [center, radius, intensity] = m_value;
-    return rectBetween({center.x - radius, center.y - radius},
-                       {center.x + radius, center.y + radius});
+void SpotlightView::paint(GraphicsContext& context, const CGRect& rect) {
+    m_picture.paint(context, rect, circleOf(m_value), Color::black.opacity(m_value.intensity),
+                    m_scale);
 }
 
 } // namespace quillon

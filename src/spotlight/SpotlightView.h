@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/ContentView.h"
+#include "spotlight/DimmedPicture.h"
 
 namespace quillon {
 
@@ -31,12 +32,13 @@ public:
     void paint(GraphicsContext& context, const CGRect& rect) override;
 
 private:
-    CGRect circle() const;
     CGRect bounds() const { return {0, 0, m_size.width, m_size.height}; }
 
     Value m_value;
     CGSize m_size;
+    CGFloat m_scale = 1;
     Damage m_damage;
+    DimmedPicture m_picture;
 };
 
 } // namespace quillon

@@ -1,5 +1,5 @@
 #include "spotlight/SpotlightView.h"
-#include "support/RecordingContext.h"
+#include "support/FakeHost.h"
 
 #include <gtest/gtest.h>
 
@@ -7,76 +7,113 @@ namespace quillon::test {
 namespace {
 
 /// A view of 1000 by 800 points that has been painted once.
-SpotlightView viewOf(const SpotlightView::Value& value) {
-    SpotlightView view(value);
-    view.layout({1000, 800}, 1);
-    view.takeDamage();
-    return view;
+struct SpotlightViewTest : testing::Test {
+    void show(const SpotlightView::Value& value) {
+        view = std::make_unique<SpotlightView>(value);
+        view->layout({1000, 800}, 1);
+        view->takeDamage();
+    }
+    std::vector<Drawing> drawn(const CGRect& rect = {0, 0, 1000, 800}) {
+        RecordingContext context;
+        view->paint(context, rect);
+        return context.drawings;
+    }
+
+    FakeHost host;
+    std::unique_ptr<SpotlightView> view;
+};
+
+TEST_F(SpotlightViewTest, black_of_the_intensity_fills_the_view_but_for_the_circle) {
+    show({{300, 200}, 150, 0.7});
+    const auto drawings = drawn();
+    ASSERT_EQ(drawings.size(), 5U);
+    for (std::size_t side = 0; side < 4; ++side) {
+        EXPECT_EQ(drawings[side].kind, Drawing::Kind::fillRect);
+        EXPECT_EQ(drawings[side].color, Color(0, 0, 0, 0.7));
+    }
+    EXPECT_EQ(drawings[4].kind, Drawing::Kind::bitmap);
+    EXPECT_EQ(drawings[4].rect, (CGRect{148, 48, 304, 304}));
+    EXPECT_EQ(drawings[4].at, (CGPoint{148, 48}));
+    const auto& square = host.graphics.lastBitmap->context.drawings;
+    ASSERT_EQ(square.size(), 1U);
+    Path mask;
+    mask.addRect({0, 0, 304, 304});
+    mask.addEllipse({2, 2, 300, 300});
+    EXPECT_EQ(square[0].kind, Drawing::Kind::fillEvenOdd);
+    EXPECT_EQ(square[0].path, mask);
+    EXPECT_EQ(square[0].color, Color(0, 0, 0, 0.7));
 }
 
-std::vector<Drawing> drawn(SpotlightView& view) {
-    RecordingContext context;
-    view.paint(context, {0, 0, 1000, 800});
-    return context.drawings;
+TEST_F(SpotlightViewTest, at_a_corner_the_part_of_the_circle_beyond_it_is_not_shown) {
+    show({{0, 800}, 100, 1});
+    const auto drawings = drawn();
+    EXPECT_EQ(drawings.back().rect, (CGRect{0, 698, 102, 102}));
+    EXPECT_EQ(drawings.back().at, (CGPoint{-102, 698}));
 }
 
-TEST(SpotlightView, black_fills_the_view_but_for_the_circle) {
-    auto view = viewOf({{300, 200}, 150, 0.7});
-    const auto drawings = drawn(view);
+TEST_F(SpotlightViewTest, a_radius_beyond_the_screen_leaves_nothing_dimmed) {
+    show({{500, 400}, 5000, 1});
+    const auto drawings = drawn();
     ASSERT_EQ(drawings.size(), 1U);
     Path mask;
     mask.addRect({0, 0, 1000, 800});
-    mask.addEllipse({150, 50, 300, 300});
+    mask.addEllipse({-4500, -4600, 10000, 10000});
     EXPECT_EQ(drawings[0].kind, Drawing::Kind::fillEvenOdd);
     EXPECT_EQ(drawings[0].path, mask);
-    EXPECT_EQ(drawings[0].color, Color(0, 0, 0, 0.7));
-    EXPECT_EQ(drawings[0].blendMode, BlendMode::normal);
 }
 
-TEST(SpotlightView, at_a_corner_the_circle_keeps_its_place_beyond_the_edges) {
-    auto view = viewOf({{0, 800}, 100, 1});
-    Path mask;
-    mask.addRect({0, 0, 1000, 800});
-    mask.addEllipse({-100, 700, 200, 200});
-    EXPECT_EQ(drawn(view).at(0).path, mask);
+TEST_F(SpotlightViewTest, the_square_round_the_circle_is_painted_once_for_many_places) {
+    show({{300, 200}, 150, 0.7});
+    drawn();
+    const auto* square = host.graphics.lastBitmap;
+    view->setValue({{310, 190}, 150, 0.7});
+    drawn();
+    EXPECT_EQ(host.graphics.lastBitmap, square);
+    view->setValue({{310, 190}, 140, 0.7});
+    drawn();
+    EXPECT_EQ(host.graphics.lastBitmap->size(), (CGSize{284, 284}));
 }
 
-TEST(SpotlightView, a_move_damages_the_old_and_the_new_circle_and_no_more) {
-    auto view = viewOf({{200, 200}, 50, 0.7});
-    view.setValue({{800, 600}, 50, 0.7});
-    EXPECT_EQ(view.takeDamage().rects(),
+TEST_F(SpotlightViewTest, a_far_move_damages_the_old_and_the_new_circle_and_no_more) {
+    show({{200, 200}, 50, 0.7});
+    view->setValue({{800, 600}, 50, 0.7});
+    EXPECT_EQ(view->takeDamage().rects(),
               (std::vector<CGRect>{{150, 150, 100, 100}, {750, 550, 100, 100}}));
-    EXPECT_TRUE(view.takeDamage().isEmpty());
+    EXPECT_TRUE(view->takeDamage().isEmpty());
 }
 
-TEST(SpotlightView, a_circle_that_shrinks_damages_its_old_extent) {
-    auto view = viewOf({{200, 200}, 50, 0.7});
-    view.setValue({{200, 200}, 20, 0.7});
-    EXPECT_EQ(view.takeDamage().bounds(), (CGRect{150, 150, 100, 100}));
+TEST_F(SpotlightViewTest, a_near_move_damages_little_more_than_the_edges_of_the_two) {
+    show({{200, 200}, 50, 0.7});
+    view->setValue({{203, 201}, 50, 0.7});
+    const Damage damage = view->takeDamage();
+    EXPECT_FALSE(damage.intersects({195, 195, 12, 12})) << "the middle stays as it is";
+    EXPECT_LT(damage.bounds().width, 106);
+    EXPECT_LT(damage.bounds().height, 104);
 }
 
-TEST(SpotlightView, another_intensity_damages_everything) {
-    auto view = viewOf({{200, 200}, 50, 0.7});
-    view.setValue({{200, 200}, 50, 0.6});
-    EXPECT_EQ(view.takeDamage().bounds(), (CGRect{0, 0, 1000, 800}));
+TEST_F(SpotlightViewTest, another_intensity_damages_everything) {
+    show({{200, 200}, 50, 0.7});
+    view->setValue({{200, 200}, 50, 0.6});
+    EXPECT_EQ(view->takeDamage().bounds(), (CGRect{0, 0, 1000, 800}));
 }
 
-TEST(SpotlightView, the_same_value_again_costs_nothing) {
-    auto view = viewOf({{200, 200}, 50, 0.7});
+TEST_F(SpotlightViewTest, the_same_value_again_costs_nothing) {
+    show({{200, 200}, 50, 0.7});
     int requests = 0;
-    view.setUpdateRequest([&] { ++requests; });
-    view.setValue({{200, 200}, 50, 0.7});
-    EXPECT_TRUE(view.takeDamage().isEmpty());
+    view->setUpdateRequest([&] { ++requests; });
+    view->setValue({{200, 200}, 50, 0.7});
+    EXPECT_TRUE(view->takeDamage().isEmpty());
     EXPECT_EQ(requests, 0);
-    view.setValue({{201, 200}, 50, 0.7});
+    view->setValue({{201, 200}, 50, 0.7});
     EXPECT_EQ(requests, 1);
 }
 
-TEST(SpotlightView, a_stored_radius_below_zero_is_taken_without_its_sign) {
-    auto view = viewOf({{200, 200}, -50, 0.7});
-    view.setValue({{800, 600}, -50, 0.7});
-    EXPECT_EQ(view.takeDamage().rects(),
+TEST_F(SpotlightViewTest, a_stored_radius_below_zero_is_taken_without_its_sign) {
+    show({{200, 200}, -50, 0.7});
+    view->setValue({{800, 600}, -50, 0.7});
+    EXPECT_EQ(view->takeDamage().rects(),
               (std::vector<CGRect>{{150, 150, 100, 100}, {750, 550, 100, 100}}));
+    EXPECT_EQ(drawn().back().rect, (CGRect{748, 548, 104, 104}));
 }
 
 } // namespace

@@ -1,0 +1,83 @@
+#include "spotlight/DimmedPicture.h"
+
+#include <cmath>
+
+namespace quillon {
+
+namespace {
+
+/// A circle of a larger radius, in device pixels, is not worth the memory of its square.
+constexpr CGFloat kLargestRadius = 1000;
+/// As fine as curves are filled.
+constexpr CGFloat kPhases = 64;
+
+void fillAround(GraphicsContext& context, const CGRect& rect, const Circle& hole,
+                const Color& color) {
+    Path path;
+    path.addRect(rect);
+    path.addEllipse(hole.bounds());
+    context.fillEvenOdd(path, color);
+}
+
+/// Fills what of `rect` lies outside of `square`.
+void fillOutside(GraphicsContext& context, const CGRect& rect, const CGRect& square,
+                 const Color& color) {
+    const CGRect inside = rect.intersection(square);
+    if (inside.isEmpty()) {
+        context.fillRect(rect, color);
+        return;
+    }
+    const CGRect parts[] = {
+        {rect.x, rect.y, rect.width, inside.minY() - rect.minY()},
+        {rect.x, inside.maxY(), rect.width, rect.maxY() - inside.maxY()},
+        {rect.x, inside.y, inside.minX() - rect.minX(), inside.height},
+        {inside.maxX(), inside.y, rect.maxX() - inside.maxX(), inside.height},
+    };
+    for (const CGRect& part : parts) {
+        if (!part.isEmpty()) {
+            context.fillRect(part, color);
+        }
+    }
+}
+
+CGFloat phase(CGFloat place) {
+    return std::round((place - std::floor(place)) * kPhases) / kPhases;
+}
+
+} // namespace
+
+CGFloat DimmedPicture::Look::reach() const {
+    return std::ceil(radius) + 2;
+}
+
+void DimmedPicture::paint(GraphicsContext& context, const CGRect& rect, const Circle& circle,
+                          const Color& color, CGFloat scale) {
+    const CGPoint center = circle.center * scale;
+    const Look look{circle.radius * scale, {phase(center.x), phase(center.y)}, color, scale};
+    if (look.radius > kLargestRadius) {
+        fillAround(context, rect, circle, color);
+        return;
+    }
+    if (!m_square || look != m_look) {
+        paintSquare(look);
+    }
+    const CGPoint corner{std::floor(center.x) - look.reach(), std::floor(center.y) - look.reach()};
+    const CGRect square{corner.x / scale, corner.y / scale, 2 * look.reach() / scale,
+                        2 * look.reach() / scale};
+    fillOutside(context, rect, square, color);
+    context.draw(*m_square, rect.intersection(square), square.origin());
+}
+
+void DimmedPicture::paintSquare(const Look& look) {
+    const CGFloat side = 2 * look.reach() / look.scale;
+    const CGRect square{0, 0, side, side};
+    const CGPoint center{(look.reach() + look.phase.x) / look.scale,
+                         (look.reach() + look.phase.y) / look.scale};
+    m_look = look;
+    m_square = m_graphics.makeBitmap(square.size(), look.scale);
+    m_square->paint(square, [&](GraphicsContext& context) {
+        fillAround(context, square, {center, look.radius / look.scale}, look.color);
+    });
+}
+
+} // namespace quillon
