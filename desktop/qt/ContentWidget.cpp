@@ -170,6 +170,8 @@ void ContentWidget::paintOutlined(QPainter& painter, const QRect& rect) {
     paintContent(into, rect);
     into.end();
     m_inkMask->replace(pixels.topLeft(), picture);
+    // The server would show what is left of a translucent colour, as if it lay on black.
+    picture.convertTo(QImage::Format_RGB32);
     picture.setDevicePixelRatio(scale);
     painter.drawImage(rect.topLeft(), picture);
 }
