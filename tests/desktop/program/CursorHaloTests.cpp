@@ -1,4 +1,5 @@
 #include "desktop/program/ProgramTest.h"
+#include "desktop/support/ScreenSize.h"
 
 #include <filesystem>
 #include <fstream>
@@ -312,6 +313,24 @@ TEST_F(CursorHalo, a_middle_click_in_the_overlay_plays_nothing) {
         stays([this] { return squareWindows(120).empty(); }, std::chrono::milliseconds(300)));
 }
 
+TEST_F(CursorHalo, a_storm_of_clicks_is_played_and_all_gone_afterwards) {
+    startAnnotating();
+    toggleHalo();
+    ASSERT_TRUE(eventually([&] {
+        input.click({500, 300}, 3);
+        return eventually([this] { return !squareWindows(120).empty(); },
+                          std::chrono::milliseconds(300));
+    }));
+    for (int click = 0; click < 100; ++click) {
+        input.click({300 + click, 300}, 3);
+    }
+    EXPECT_TRUE(eventually([this] { return squareWindows(120).size() > 10; }));
+    EXPECT_TRUE(eventually([this] { return squareWindows(120).empty(); }));
+    toggleHalo();
+    toggleAnnotation();
+    EXPECT_TRUE(eventually([this] { return !takesPointer(); }));
+}
+
 TEST_F(CursorHalo, the_program_ends_quietly_in_the_middle_of_an_animation) {
     startAnnotating();
     toggleHalo();
@@ -331,6 +350,45 @@ TEST_F(CursorHalo, a_compositor_that_goes_leaves_a_ring_with_the_screen_inside) 
     EXPECT_TRUE(showsBackground({400 + 18, 300 + 18}));
     EXPECT_TRUE(showsBackground({300 + 16, 300}));
 }
+
+TEST_F(CursorHalo, it_crosses_from_one_display_to_the_other) {
+    splitScreen(desktop.connection(), 450);
+    startWithHaloAt({300, 300});
+    for (const int x : {440, 449, 450, 451, 460, 700, 455, 200}) {
+        input.moveTo({x, 300});
+        EXPECT_TRUE(hasRing({x, 300})) << x;
+    }
+}
+
+/// At a scale of so many percent, as the user's session states it.
+class ScaledCursorHalo : public CursorHalo, public testing::WithParamInterface<int> {};
+
+TEST_P(ScaledCursorHalo, the_ring_grows_and_the_pointer_stays_in_its_middle) {
+    const std::string resources = "Xft.dpi:\t" + std::to_string(96 * GetParam() / 100) + "\n";
+    xcb_change_property(desktop.connection().get(), XCB_PROP_MODE_REPLACE,
+                        desktop.connection().root(), XCB_ATOM_RESOURCE_MANAGER, XCB_ATOM_STRING, 8,
+                        static_cast<std::uint32_t>(resources.size()), resources.c_str());
+    desktop.connection().synchronise();
+    start();
+    toggleHalo();
+    const int radius = kRadius * GetParam() / 100;
+    for (const Pixel place : {Pixel{301, 300}, Pixel{302, 303}, Pixel{603, 407}}) {
+        EXPECT_TRUE(eventually([&] {
+            input.moveTo({place.x - 3, place.y});
+            input.moveTo(place);
+            return eventually(
+                [&] {
+                    return isHalo(screen.pixel({place.x + radius - 1, place.y})) &&
+                           isHalo(screen.pixel({place.x - radius, place.y})) &&
+                           isHalo(screen.pixel({place.x, place.y + radius - 1})) &&
+                           isHalo(screen.pixel({place.x, place.y - radius}));
+                },
+                std::chrono::milliseconds(100));
+        })) << place.x;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Scales, ScaledCursorHalo, testing::Values(125, 150, 200));
 
 class CursorHaloWithoutCompositor : public CursorHalo {
 protected:
