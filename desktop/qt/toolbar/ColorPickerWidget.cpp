@@ -104,7 +104,8 @@ void ColorPickerWidget::addQuickColors(QVBoxLayout& column) {
     group->setSpacing(qRound(View::quickColorsSpacing));
     group->addWidget(new CaptionLabel(View::quickColorsTitle));
     m_quickColors = new QuickColorsWidget(*this);
-    m_quickColors->setFixedWidth(width() - 2 * qRound(View::padding));
+    constexpr int overhang = QuickColorsWidget::overhang;
+    m_quickColors->setFixedWidth(width() - 2 * qRound(View::padding) + overhang);
     group->addWidget(m_quickColors);
     column.addLayout(group);
 }

@@ -108,10 +108,10 @@ void QuickColorsWidget::follow(const std::vector<ColorPickerView::QuickColorCell
 void QuickColorsWidget::addCell(const ColorPickerView::QuickColorCell& cell, int index) {
     auto* child = new Cell(cell, *this);
     const qreal columnWidth =
-        (width() - (View::columnCount - 1) * View::columnSpacing) / View::columnCount;
+        (width() - overhang - (View::columnCount - 1) * View::columnSpacing) / View::columnCount;
     const int column = index % View::columnCount;
     const int row = index / View::columnCount;
-    const QPointF center(column * (columnWidth + View::columnSpacing) + columnWidth / 2,
+    const QPointF center(overhang + column * (columnWidth + View::columnSpacing) + columnWidth / 2,
                          row * (View::quickSwatchSize + View::rowSpacing) +
                              View::quickSwatchSize / 2);
     child->move((center - QPointF(child->width(), child->height()) / 2).toPoint());

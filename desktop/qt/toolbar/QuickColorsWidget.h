@@ -11,6 +11,9 @@ namespace quillon::desktop {
 /// The grid of quick colours in the popover.
 class QuickColorsWidget : public QWidget {
 public:
+    /// What the first swatches reach to the left of their column, in points.
+    static constexpr int overhang = 5;
+
     explicit QuickColorsWidget(QWidget& parent);
 
     void follow(const std::vector<ColorPickerView::QuickColorCell>& cells);
