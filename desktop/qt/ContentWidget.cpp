@@ -14,7 +14,6 @@
 #include <QWindow>
 #include <QtMath>
 
-#include <chrono>
 #include <utility>
 
 namespace quillon::desktop {
@@ -23,8 +22,8 @@ namespace {
 
 const QEvent::Type kUpdateContent = static_cast<QEvent::Type>(QEvent::registerEventType());
 
-/// A motion that comes this long after the last update is no part of a burst.
-constexpr std::chrono::milliseconds kQuiet{2};
+/// Beyond this the toolkit's way costs no more.
+constexpr int kMostDirectPixels = 256 * 128;
 
 /// The smallest number of points that is a whole number of device pixels, so that a part painted by
 /// itself never shares a pixel with its surroundings. Scales are multiples of a 96th.
@@ -40,15 +39,15 @@ int pointsOfWholePixels(CGFloat scale) {
 
 } // namespace
 
-ContentWidget::ContentWidget(std::function<void()> onPress)
-    : m_onPress(std::move(onPress)) {
+ContentWidget::ContentWidget(xcb_connection_t* connection, std::function<void()> onPress)
+    : m_upload(connection)
+    , m_onPress(std::move(onPress)) {
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_NoSystemBackground);
     setAttribute(Qt::WA_ShowWithoutActivating);
     // With the focus here, the first tab goes to the first control.
     setFocusPolicy(Qt::ClickFocus);
     setFocus();
-    m_sinceLastUpdate.start();
 }
 
 ContentWidget::~ContentWidget() {
@@ -71,8 +70,7 @@ void ContentWidget::adoptRootView() {
 
 bool ContentWidget::event(QEvent* event) {
     if (event->type() == kUpdateContent) {
-        m_isUpdatePending = false;
-        updateContent();
+        updateNow();
         return true;
     }
     if (event->type() == QEvent::WinIdChange && windowHandle()) {
@@ -86,6 +84,10 @@ bool ContentWidget::event(QEvent* event) {
 }
 
 bool ContentWidget::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == windowHandle() && event->type() == QEvent::Expose) {
+        // What the toolkit keeps for this does not hold what went past it.
+        update();
+    }
     // A press on a control is one in this window as well.
     if (watched == windowHandle() && event->type() == QEvent::MouseButtonPress &&
         static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
@@ -137,12 +139,38 @@ void ContentWidget::putOnScreen(const QRegion& region) {
         repaint(region);
         return;
     }
+    if (region.rectCount() == 1 && putOnScreenDirectly(*store, region.boundingRect())) {
+        return;
+    }
     store->beginPaint(region);
     QPainter painter(store->paintDevice());
     paintRegion(painter, region);
     painter.end();
     store->endPaint();
     store->flush(region);
+}
+
+bool ContentWidget::putOnScreenDirectly(QBackingStore& store, const QRect& rect) {
+    QPaintDevice* device = store.paintDevice();
+    if (!isComposited() || device->devType() != QInternal::Image) {
+        return false;
+    }
+    auto& picture = *static_cast<QImage*>(device);
+    const QRect pixels = devicePixels(fromQRectF(rect), devicePixelRatio());
+    if (picture.format() != QImage::Format_ARGB32_Premultiplied ||
+        !picture.rect().contains(pixels) || pixels.height() * pixels.width() > kMostDirectPixels) {
+        return false;
+    }
+    QPainter painter(&picture);
+    painter.setClipRect(rect);
+    painter.setCompositionMode(QPainter::CompositionMode_Clear);
+    painter.fillRect(rect, Qt::transparent);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    paintContent(painter, rect);
+    painter.end();
+    return m_upload.put(static_cast<xcb_window_t>(internalWinId()),
+                        {picture.constBits(), static_cast<std::size_t>(picture.bytesPerLine())},
+                        toXRectangle(pixels));
 }
 
 void ContentWidget::display() {
@@ -201,9 +229,12 @@ void ContentWidget::mousePressEvent(QMouseEvent* event) {
 
 void ContentWidget::mouseMoveEvent(QMouseEvent* event) {
     if (event->buttons().testFlag(Qt::LeftButton) && m_content) {
-        m_content->rootView->mouseDragged(fromQPointF(event->position()));
-        updateAtOnceIfQuiet();
+        dragTo(event->position());
     }
+}
+
+void ContentWidget::dragTo(QPointF place) {
+    m_content->rootView->mouseDragged(fromQPointF(place));
 }
 
 void ContentWidget::mouseReleaseEvent(QMouseEvent* event) {
@@ -230,14 +261,13 @@ void ContentWidget::requestUpdate() {
     }
 }
 
-void ContentWidget::updateAtOnceIfQuiet() {
-    if (m_isUpdatePending && m_sinceLastUpdate.hasExpired(kQuiet.count())) {
+void ContentWidget::updateNow() {
+    if (std::exchange(m_isUpdatePending, false)) {
         updateContent();
     }
 }
 
 void ContentWidget::updateContent() {
-    m_sinceLastUpdate.start();
     if (!m_content) {
         return;
     }
@@ -248,6 +278,17 @@ void ContentWidget::updateContent() {
         putOnScreen(region);
     }
     tellOutline();
+    tellFreeRegion();
+}
+
+void ContentWidget::tellFreeRegion() {
+    const QRegion region = QRegion(rect()) - childrenRegion();
+    if (region != m_freeRegion) {
+        m_freeRegion = region;
+        if (onFreeRegionChanged) {
+            onFreeRegionChanged();
+        }
+    }
 }
 
 void ContentWidget::updateTextField() {

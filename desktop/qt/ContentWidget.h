@@ -1,15 +1,17 @@
 #pragma once
 
 #include "desktop/qt/InkMask.h"
+#include "desktop/x11/PixelUpload.h"
 #include "platform/Window.h"
 
 #include <QColor>
-#include <QElapsedTimer>
 #include <QWidget>
 
 #include <functional>
 #include <memory>
 #include <optional>
+
+class QBackingStore;
 
 namespace quillon::desktop {
 
@@ -24,7 +26,8 @@ class TextFieldWidget;
 /// 3. the text field and the controls come, go or change as the view says.
 class ContentWidget : public QWidget {
 public:
-    explicit ContentWidget(std::function<void()> onPress);
+    /// `connection` is the toolkit's, where it has one.
+    ContentWidget(xcb_connection_t* connection, std::function<void()> onPress);
     ~ContentWidget() override;
 
     void setContentView(const std::shared_ptr<HostingView>& view);
@@ -36,6 +39,15 @@ public:
     /// the rest of the screen stays to be seen.
     void setComposited(bool composited);
     bool isComposited() const { return !m_inkMask; }
+    /// A motion with the primary button held, in the widget's coordinates.
+    void dragTo(QPointF place);
+    /// Spares an update that is due the way through the event queue.
+    void updateNow();
+    /// The part in which the content itself takes the pointer, and no control and no text field.
+    const QRegion& freeRegion() const { return m_freeRegion; }
+    /// Called after each change of it.
+    std::function<void()> onFreeRegionChanged;
+
     /// Called with the outline, in device pixels, when it may have changed.
     std::function<void(const QRegion&)> onOutlined;
 
@@ -64,32 +76,34 @@ protected:
 private:
     void adoptRootView();
     void requestUpdate();
-    /// Spares a motion that stands alone the way through the event queue, while in a burst the
-    /// update still waits behind all input that has arrived.
-    void updateAtOnceIfQuiet();
     void updateContent();
     void updateTextField();
     void updateControls();
     void tellControlsPlace();
+    void tellFreeRegion();
     void showControls(const std::shared_ptr<ControlView>& view);
     void layoutContent();
     QRegion regionOf(const Damage& damage) const;
     /// Paints the region and puts it on the screen at once.
     void putOnScreen(const QRegion& region);
+    /// The same for one small rectangle, with no help of the widget system; false when that cannot
+    /// be done.
+    bool putOnScreenDirectly(QBackingStore& store, const QRect& rect);
     void paintRegion(QPainter& painter, const QRegion& region);
     void paintContent(QPainter& painter, const QRect& rect);
     void paintOutlined(QPainter& painter, const QRect& rect);
     void tellOutline();
 
+    PixelUpload m_upload;
     std::function<void()> m_onPress;
     std::shared_ptr<HostingView> m_content;
     QColor m_backgroundColor;
     std::unique_ptr<TextFieldWidget> m_textField;
     std::unique_ptr<ControlsWidget> m_controls;
     QRect m_controlsPlace;
+    QRegion m_freeRegion;
     std::optional<InkMask> m_inkMask;
     bool m_isUpdatePending = false;
-    QElapsedTimer m_sinceLastUpdate;
     /// The size in which the widget system last painted; empty when it has yet to prepare the
     /// store.
     QSize m_paintedSize;

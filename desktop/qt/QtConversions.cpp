@@ -53,6 +53,12 @@ QRect devicePixels(const CGRect& rect, CGFloat scale) {
                  QPoint(high(rect.maxX()) - 1, high(rect.maxY()) - 1));
 }
 
+xcb_rectangle_t toXRectangle(const QRect& pixels) {
+    return {static_cast<std::int16_t>(pixels.x()), static_cast<std::int16_t>(pixels.y()),
+            static_cast<std::uint16_t>(pixels.width()),
+            static_cast<std::uint16_t>(pixels.height())};
+}
+
 QFont systemFont(CGFloat size) {
     QFont font = QGuiApplication::font();
     font.setPixelSize(std::max(1, qRound(size)));

@@ -11,6 +11,8 @@
 #include <QRect>
 #include <QRectF>
 
+#include <xcb/xcb.h>
+
 /// The system's plain values in the toolkit's terms.
 namespace quillon::desktop {
 
@@ -34,6 +36,9 @@ inline CGRect fromQRectF(const QRectF& rect) {
 
 /// The device pixels that a rectangle in points touches.
 QRect devicePixels(const CGRect& rect, CGFloat scale);
+
+/// Device pixels as the server takes them.
+xcb_rectangle_t toXRectangle(const QRect& pixels);
 
 /// The application's font, default weight, at a size in points of the system: logical pixels.
 QFont systemFont(CGFloat size);

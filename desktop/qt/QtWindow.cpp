@@ -19,24 +19,21 @@ namespace {
 constexpr std::chrono::milliseconds kGrabAgain{30};
 constexpr int kGrabConfirmations = 5;
 
-xcb_rectangle_t toRectangle(const QRect& rect) {
-    return {static_cast<std::int16_t>(rect.x()), static_cast<std::int16_t>(rect.y()),
-            static_cast<std::uint16_t>(rect.width()), static_cast<std::uint16_t>(rect.height())};
-}
-
 } // namespace
 
 QtWindow::QtWindow(Window& window, const Surroundings& surroundings)
     : m_window(window)
     , m_surroundings(surroundings)
     , m_keyboard(surroundings.connection)
-    , m_widget([this] { takeKeyboard(); })
+    , m_widget(surroundings.connection, [this] { takeKeyboard(); })
+    , m_pointerInput(m_widget, surroundings.connection)
     , m_placement(m_widget, surroundings.connection)
     , m_compositorChange(surroundings.compositor.changed.sink([this] { followCompositor(); })) {
     m_widget.setWindowFlags(Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint |
                             Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint | Qt::Tool);
     m_widget.onEditingChanged = [this] { giveBackKeyboardIfUnused(); };
     m_widget.onControlsPlaced = [this](const QRect& place) { blurBehind(place); };
+    m_widget.onFreeRegionChanged = [this] { followFreeRegion(); };
     m_widget.onOutlined = [this](const QRegion& outline) { takeOutline(outline); };
     setFrame(window.frame());
     followCompositor();
@@ -60,6 +57,7 @@ void QtWindow::setIgnoresMouseEvents(bool ignores) {
     grabPointerIfNeeded();
     setInputRegion(m_surroundings.connection, nativeWindow(),
                    ignores ? InputRegion::empty : InputRegion::window);
+    followFreeRegion();
     giveBackKeyboardIfUnused();
 }
 
@@ -113,9 +111,15 @@ void QtWindow::confirmGrab() {
     }
 }
 
+void QtWindow::followFreeRegion() {
+    if (!m_window.ignoresMouseEvents() && !m_widget.freeRegion().isEmpty()) {
+        m_pointerInput.cover(m_widget.freeRegion());
+    }
+}
+
 void QtWindow::blurBehind(const QRect& place) {
     setBlurBehind(m_surroundings.connection, nativeWindow(),
-                  place.isEmpty() ? std::nullopt : std::optional(toRectangle(place)));
+                  place.isEmpty() ? std::nullopt : std::optional(toXRectangle(place)));
 }
 
 void QtWindow::noteGrab(bool grabs) {
@@ -126,7 +130,7 @@ void QtWindow::noteGrab(bool grabs) {
 void QtWindow::takeOutline(const QRegion& outline) {
     std::vector<xcb_rectangle_t> rectangles;
     for (const QRect& rect : outline) {
-        rectangles.push_back(toRectangle(rect));
+        rectangles.push_back(toXRectangle(rect));
     }
     setOutline(m_surroundings.connection, nativeWindow(), rectangles);
 }

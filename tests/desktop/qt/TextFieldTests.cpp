@@ -64,7 +64,7 @@ protected:
 
 private:
     FieldView* m_view = nullptr;
-    ContentWidget m_widget{[] {}};
+    ContentWidget m_widget{nullptr, [] {}};
 };
 
 } // namespace

@@ -1,5 +1,5 @@
-#include "desktop/support/ScreenSize.h"
 #include "desktop/support/Canvas.h"
+#include "desktop/support/ScreenSize.h"
 #include "desktop/x11/CaptureProgram.h"
 #include "desktop/x11/ServerAlone.h"
 
