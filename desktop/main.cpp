@@ -1,4 +1,5 @@
 #include "desktop/qt/ActiveWindow.h"
+#include "desktop/qt/ColorScheme.h"
 #include "desktop/qt/QtApplication.h"
 #include "desktop/qt/QtEventMonitors.h"
 #include "desktop/qt/QtFileWatch.h"
@@ -71,6 +72,7 @@ int run(QApplication& application, xcb_connection_t* connection) {
         return EXIT_SUCCESS;
     }
 
+    const ColorScheme colorScheme(QDBusConnection::sessionBus());
     QtMainQueue mainQueue;
     SqliteDefaults userDefaults(userConfigFolder());
     QtApplication system;

@@ -11,7 +11,7 @@ build_packages=(
 
 # A desktop without a screen, and what draws, reads and drives it.
 virtual_desktop_packages=(
-    xvfb picom openbox tint2 libgtest-dev libpng-dev libxcb-xtest0-dev
+    xvfb picom openbox tint2 dbus-daemon libgtest-dev libpng-dev libxcb-xtest0-dev
 )
 
 test_packages=(clang-format)
