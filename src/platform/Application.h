@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Menu.h"
 #include "platform/Window.h"
 
 #include <string_view>
@@ -35,6 +36,10 @@ public:
     void setDelegate(ApplicationDelegate* delegate) { m_delegate = delegate; }
     ApplicationDelegate* delegate() const { return m_delegate; }
 
+    /// The menu of windows that carry a menu bar.
+    void setMainMenu(const Menu& menu) { m_mainMenu = menu; }
+    const Menu& mainMenu() const { return m_mainMenu; }
+
     /// Sends an action up the responder chain: to the delegate, then to the application, which
     /// knows "terminate:". False when nobody took it.
     bool sendAction(std::string_view selector);
@@ -46,6 +51,7 @@ public:
 
 private:
     ApplicationDelegate* m_delegate = nullptr;
+    Menu m_mainMenu;
     std::vector<Window*> m_windows;
 };
 

@@ -61,4 +61,29 @@ void Window::orderOut() {
     m_backend->orderOut();
 }
 
+void Window::center() {
+    const auto screen = Host::current().screens().mainScreen();
+    if (!screen) {
+        return;
+    }
+    const CGRect& room = screen->visibleFrame;
+    setFrame({room.x + (room.width - m_frame.width) / 2,
+              room.y + (room.height - m_frame.height) * 2 / 3, m_frame.width, m_frame.height},
+             /*display=*/false);
+}
+
+void Window::setContentViewController(std::shared_ptr<HostingController> controller) {
+    m_contentViewController = std::move(controller);
+    m_backend->setContentViewController(m_contentViewController);
+}
+
+void Window::close() {
+    orderOut();
+    if (m_contentViewController) {
+        m_contentViewController->rootView->onDisappear();
+    }
+    // This may be gone when the call returns.
+    Host::current().notificationCenter().post(NSWindowWillCloseNotification, this);
+}
+
 } // namespace quillon

@@ -3,33 +3,20 @@
 #include "foundation/Color.h"
 #include "foundation/Geometry.h"
 #include "platform/ContentView.h"
+#include "platform/ControlsView.h"
+#include "platform/WindowStyle.h"
 
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace quillon {
 
-enum class WindowStyleMask : std::uint32_t { borderless = 0 };
-enum class BackingStoreType { buffered = 2 };
-
-/// The level of every window of the system.
-inline constexpr int NSFloatingWindowLevel = 3;
-
-/// Bits of a collection behaviour.
-namespace NSWindowCollectionBehavior {
-inline constexpr std::uint32_t canJoinAllSpaces = 0x1;
-inline constexpr std::uint32_t ignoresCycle = 0x40;
-inline constexpr std::uint32_t fullScreenAuxiliary = 0x100;
-} // namespace NSWindowCollectionBehavior
-
-/// Bits of an autoresizing mask.
-namespace NSAutoresizingMask {
-inline constexpr std::uint32_t widthSizable = 0x2;
-inline constexpr std::uint32_t heightSizable = 0x10;
-} // namespace NSAutoresizingMask
+/// Posted on the notification centre when a window closes, with the window as the object.
+inline constexpr std::string_view NSWindowWillCloseNotification = "NSWindowWillCloseNotification";
 
 /// A view that hosts a root view, its type erased, and gives it to a window as its content.
 struct HostingView {
@@ -63,6 +50,9 @@ public:
     virtual void display() = 0;
     virtual void setIgnoresMouseEvents(bool ignores) = 0;
     virtual void setContentView(const std::shared_ptr<HostingView>& view) = 0;
+    /// Only a titled window has controls for its content.
+    virtual void
+    setContentViewController(const std::shared_ptr<HostingController>& /*controller*/) {}
     /// In front of the other windows, without taking the keyboard.
     virtual void orderFrontRegardless() = 0;
     /// In front, and with the keyboard.
@@ -129,18 +119,26 @@ public:
     /// `display` puts the picture on the screen anew where the frame alone would change nothing
     /// there.
     void setFrame(const CGRect& frame, bool display, bool animate = false);
+    /// Moves the window to the middle of the main screen, with half as much room above it as
+    /// below. It stays where it is when no screen is known.
+    void center();
     /// The area of the content in the window's own coordinates.
     CGRect contentBounds() const { return {0, 0, m_frame.width, m_frame.height}; }
 
     const std::shared_ptr<HostingView>& contentView() const { return m_contentView; }
     void setContentView(std::shared_ptr<HostingView> view);
+    const std::shared_ptr<HostingController>& contentViewController() const {
+        return m_contentViewController;
+    }
+    void setContentViewController(std::shared_ptr<HostingController> controller);
 
     bool isVisible() const { return m_isVisible; }
     void orderFrontRegardless();
     void makeKeyAndOrderFront();
     void orderOut();
-    /// Takes the window off the screen for good. Its owner still has it.
-    void close() { orderOut(); }
+    /// Takes the window off the screen and announces that it closes, upon which its owner may
+    /// destroy it.
+    void close();
 
 private:
     void noteShown();
@@ -162,6 +160,7 @@ private:
     bool m_ignoresMouseEvents = false;
     bool m_isVisible = false;
     std::shared_ptr<HostingView> m_contentView;
+    std::shared_ptr<HostingController> m_contentViewController;
     std::unique_ptr<WindowBackend> m_backend;
 };
 

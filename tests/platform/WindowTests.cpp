@@ -12,6 +12,15 @@ namespace {
 
 class WindowTest : public testing::Test {
 protected:
+    struct Controls : ControlsView {
+        explicit Controls(int& disappearances)
+            : m_disappearances(disappearances) {}
+        void onDisappear() override { ++m_disappearances; }
+
+    private:
+        int& m_disappearances;
+    };
+
     std::unique_ptr<Window> makeWindow() const {
         return std::make_unique<Window>(CGRect{10, 20, 300, 200}, WindowStyleMask::borderless,
                                         BackingStoreType::buffered, false);
@@ -111,6 +120,77 @@ TEST_F(WindowTest, closed_it_is_off_the_screen_and_its_owner_still_has_it) {
     EXPECT_FALSE(window->isVisible());
     EXPECT_EQ(host.windows.calls.back(), "orderOut");
     EXPECT_EQ(host.application.windows(), std::vector{window.get()});
+}
+
+// Titled windows.
+
+TEST_F(WindowTest, a_window_with_a_title_takes_the_keyboard) {
+    const auto style = WindowStyleMask::titled | WindowStyleMask::closable;
+    const Window window({0, 0, 300, 200}, style, BackingStoreType::buffered, false);
+    EXPECT_TRUE(window.canBecomeKeyWindow());
+    EXPECT_TRUE(contains(window.styleMask(), WindowStyleMask::closable));
+    EXPECT_FALSE(contains(window.styleMask(), WindowStyleMask::resizable));
+}
+
+TEST_F(WindowTest, controls_are_kept_and_handed_on) {
+    const auto window = makeWindow();
+    int disappearances = 0;
+    const auto controller =
+        std::make_shared<HostingController>(std::make_unique<Controls>(disappearances));
+    window->setContentViewController(controller);
+    EXPECT_EQ(window->contentViewController(), controller);
+    EXPECT_EQ(host.windows.calls, Calls{"contentViewController"});
+    EXPECT_EQ(disappearances, 0);
+}
+
+TEST_F(WindowTest, the_centre_leaves_half_as_much_room_above_the_window_as_below) {
+    host.screens.all = {{{0, 0, 1920, 1080}, {0, 0, 1920, 1050}, 1, "Screen"}};
+    const auto window = makeWindow();
+    window->setFrame({0, 0, 600, 450}, false);
+    window->center();
+    EXPECT_EQ(window->frame(), (CGRect{660, 400, 600, 450}));
+}
+
+TEST_F(WindowTest, the_centre_is_that_of_the_main_screen_wherever_it_stands) {
+    host.screens.all = {{{-1000, 100, 800, 600}, {-1000, 100, 800, 600}, 1, "Left"}};
+    const auto window = makeWindow();
+    window->center();
+    EXPECT_EQ(window->frame().midX(), -600);
+}
+
+TEST_F(WindowTest, without_a_screen_there_is_no_centre) {
+    host.screens.all.clear();
+    const auto window = makeWindow();
+    window->center();
+    EXPECT_EQ(window->frame(), (CGRect{10, 20, 300, 200}));
+}
+
+TEST_F(WindowTest, a_close_takes_it_off_the_screen_and_then_announces_itself) {
+    auto window = makeWindow();
+    int disappearances = 0;
+    window->setContentViewController(
+        std::make_shared<HostingController>(std::make_unique<Controls>(disappearances)));
+    window->makeKeyAndOrderFront();
+    const Window* closed = nullptr;
+    const auto observed = host.notificationCenter().addObserver(
+        NSWindowWillCloseNotification, [&](const Notification& notification) {
+            closed = window.get();
+            EXPECT_EQ(notification.object, window.get());
+            EXPECT_FALSE(window->isVisible());
+            EXPECT_EQ(disappearances, 1);
+        });
+    window->close();
+    EXPECT_EQ(closed, window.get());
+    EXPECT_EQ(host.windows.calls.back(), "orderOut");
+}
+
+TEST_F(WindowTest, whoever_hears_of_the_close_may_destroy_the_window) {
+    auto window = makeWindow();
+    const auto observed = host.notificationCenter().addObserver(
+        NSWindowWillCloseNotification, [&](const Notification&) { window.reset(); });
+    window->close();
+    EXPECT_FALSE(window);
+    EXPECT_TRUE(host.application.windows().empty());
 }
 
 } // namespace quillon::test

@@ -31,6 +31,9 @@ private:
         void setContentView(const std::shared_ptr<HostingView>&) override {
             m_calls.emplace_back("contentView");
         }
+        void setContentViewController(const std::shared_ptr<HostingController>&) override {
+            m_calls.emplace_back("contentViewController");
+        }
         void orderFrontRegardless() override { m_calls.emplace_back("orderFront"); }
         void makeKeyAndOrderFront() override { m_calls.emplace_back("makeKeyAndOrderFront"); }
         void orderOut() override { m_calls.emplace_back("orderOut"); }
