@@ -2,16 +2,22 @@
 
 #include "settings/AboutSettingsView.h"
 #include "settings/AnnotationSettingsView.h"
+#include "settings/CursorSettingsView.h"
 #include "settings/GeneralSettingsView.h"
 #include "settings/HotkeySettingsView.h"
+#include "settings/SpotlightSettingsView.h"
+
+#include <initializer_list>
 
 namespace quillon {
 
 SettingsView::SettingsView()
     : m_appSettings(AppSettings::shared())
-    , m_hotkeyManager(HotkeyManager::shared()) {
-    for (ObservableObject* const observed :
-         std::initializer_list<ObservableObject*>{&m_appSettings, &m_hotkeyManager}) {
+    , m_hotkeyManager(HotkeyManager::shared())
+    , m_cursorHighlightManager(CursorHighlightManager::shared())
+    , m_spotlightManager(SpotlightManager::shared()) {
+    for (ObservableObject* const observed : std::initializer_list<ObservableObject*>{
+             &m_appSettings, &m_hotkeyManager, &m_cursorHighlightManager, &m_spotlightManager}) {
         m_observers.push_back(observed->objectWillChange.sink([this] { objectWillChange.send(); }));
     }
     show(m_selectedTab);
@@ -46,7 +52,9 @@ std::unique_ptr<SettingsPage> SettingsView::makePage(SettingsTab tab) {
     case SettingsTab::hotkeys:
         return std::make_unique<HotkeySettingsView>(m_appSettings, m_hotkeyManager);
     case SettingsTab::cursor:
+        return std::make_unique<CursorSettingsView>(m_appSettings, m_cursorHighlightManager);
     case SettingsTab::spotlight:
+        return std::make_unique<SpotlightSettingsView>(m_appSettings, m_spotlightManager);
     case SettingsTab::about:
         break;
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cursor/CursorHighlightManager.h"
 #include "foundation/Cancellable.h"
 #include "foundation/Published.h"
 #include "model/AppSettings.h"
@@ -8,6 +9,7 @@
 #include "settings/SettingsTab.h"
 #include "settings/TabStrip.h"
 #include "shortcuts/HotkeyManager.h"
+#include "spotlight/SpotlightManager.h"
 
 #include <functional>
 #include <memory>
@@ -58,6 +60,8 @@ private:
 
     AppSettings& m_appSettings;
     HotkeyManager& m_hotkeyManager;
+    CursorHighlightManager& m_cursorHighlightManager;
+    SpotlightManager& m_spotlightManager;
     Published<SettingsTab> m_selectedTab{*this, SettingsTab::general};
     std::unique_ptr<SettingsPage> m_page;
     Cancellable m_pageObserver;

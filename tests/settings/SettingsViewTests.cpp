@@ -59,6 +59,8 @@ TEST_F(SettingsViewTest, each_tab_shows_its_own_page) {
     };
     EXPECT_EQ(title(SettingsTab::general), "General Settings");
     EXPECT_EQ(title(SettingsTab::annotation), "Annotation Settings");
+    EXPECT_EQ(title(SettingsTab::cursor), "Cursor Halo Settings");
+    EXPECT_EQ(title(SettingsTab::spotlight), "Spotlight & Zoom Settings");
     EXPECT_EQ(title(SettingsTab::hotkeys), "Keyboard Shortcuts");
     EXPECT_EQ(title(SettingsTab::about), "About");
 }
