@@ -2,15 +2,18 @@
 
 #include "cursor/CursorHighlightManager.h"
 #include "foundation/FatalError.h"
+#include "foundation/PrintLine.h"
 #include "model/AppSettings.h"
 #include "model/NotificationNames.h"
 #include "platform/Host.h"
+#include "settings/SettingsView.h"
 #include "shell/StatusMenu.h"
 #include "shortcuts/HotkeyManager.h"
 #include "spotlight/SpotlightManager.h"
 
 #include <optional>
 #include <span>
+#include <string>
 #include <utility>
 
 namespace quillon {
@@ -25,6 +28,7 @@ constexpr CGSize kIconSize{16, 16};
 
 constexpr CGRect kOverlayWithoutScreen{0, 0, 1024, 768};
 constexpr CGRect kOffScreen{-10000, -10000, 1, 1};
+constexpr CGRect kSettingsContent{0, 0, 600, 500};
 constexpr std::string_view kSettingsTitle = "Quillon Mark Settings";
 
 struct Action {
@@ -47,6 +51,20 @@ constexpr Action kCommands[] = {
     {"openSettings", &AppDelegate::openSettings},
     {NotificationName::clearAnnotations, &AppDelegate::clearAnnotations},
 };
+
+std::unique_ptr<Window> makeSettingsWindow() {
+    const auto style =
+        WindowStyleMask::titled | WindowStyleMask::closable | WindowStyleMask::miniaturizable;
+    auto window = std::make_unique<Window>(kSettingsContent, style, BackingStoreType::buffered,
+                                           /*defersCreation=*/false);
+    window->setTitle(std::string(kSettingsTitle));
+    window->setContentViewController(
+        std::make_shared<HostingController>(std::make_unique<SettingsView>()));
+    window->center();
+    window->setReleasedWhenClosed(false);
+    window->setLevel(NSFloatingWindowLevel);
+    return window;
+}
 
 /// The asset if the program came with it, else the symbol, if the host has it.
 std::optional<Image> statusImage(std::string_view symbol) {
@@ -242,7 +260,26 @@ void AppDelegate::toggleZoom() {
     AppSettings::shared().isZoomEnabled = manager.isZoomEnabled;
 }
 
-void AppDelegate::openSettings() {}
+void AppDelegate::openSettings() {
+    printLine("AppDelegate: openSettings called");
+    Host::current().application().activate(/*ignoringOtherApps=*/true);
+    if (m_settingsWindow) {
+        printLine("AppDelegate: settings window exists, bringing to front");
+        m_settingsWindow->makeKeyAndOrderFront();
+        return;
+    }
+    printLine("AppDelegate: creating new settings window");
+    m_settingsWindow = makeSettingsWindow();
+    m_settingsWindowObserver = Host::current().notificationCenter().addObserver(
+        NSWindowWillCloseNotification, [this](const Notification& notification) {
+            if (notification.object == m_settingsWindow.get()) {
+                printLine("AppDelegate: settings window closed");
+                m_settingsWindow.reset();
+            }
+        });
+    printLine("AppDelegate: showing settings window");
+    m_settingsWindow->makeKeyAndOrderFront();
+}
 
 void AppDelegate::clearAnnotations() {
     Host::current().notificationCenter().post(NotificationName::clearAnnotations);

@@ -53,6 +53,7 @@ public:
     void toggleCursorHalo();
     void toggleSpotlight();
     void toggleZoom();
+    /// Brings the settings window to the front, or makes it. One that was closed is never reused.
     void openSettings();
     /// Asks whoever shows annotations to clear them.
     void clearAnnotations();
@@ -76,6 +77,7 @@ private:
     std::vector<std::any> m_eventMonitors;
     Cancellable m_annotationSettingsObserver;
     Cancellable m_hotkeySettingsObserver;
+    Cancellable m_settingsWindowObserver;
     /// Observers that live as long as this does.
     std::vector<Cancellable> m_observers;
     Lifetime m_lifetime;

@@ -8,6 +8,7 @@ namespace quillon {
 OrvalisCloneApp::OrvalisCloneApp()
     : m_appSettings(AppSettings::shared()) {
     Host::current().application().setDelegate(&m_appDelegate);
+    Host::current().application().setMainMenu(commandMenu());
 }
 
 OrvalisCloneApp::~OrvalisCloneApp() {

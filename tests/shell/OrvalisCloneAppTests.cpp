@@ -46,6 +46,12 @@ TEST(OrvalisCloneApp, every_entry_of_its_menus_is_taken_by_somebody) {
     EXPECT_EQ(host.application.terminations, 1);
 }
 
+TEST(OrvalisCloneApp, its_command_menu_is_that_of_the_windows_with_a_menu_bar) {
+    FakeHost host;
+    const OrvalisCloneApp app;
+    EXPECT_EQ(host.application.mainMenu(), annotationCommandMenu());
+}
+
 TEST(OrvalisCloneApp, its_command_menu_toggles_annotation_and_asks_for_clearing) {
     FakeHost host;
     OrvalisCloneApp app;
