@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <initializer_list>
-#include <utility>
 
 namespace quillon::desktop {
 
@@ -54,14 +53,8 @@ ModifierMap ModifierMap::usual() {
 }
 
 std::optional<std::uint16_t> ModifierMap::state(std::uint32_t modifiers) const {
-    const std::pair<std::uint32_t, std::uint16_t> masks[] = {
-        {cmdKey, m_super},
-        {shiftKey, XCB_MOD_MASK_SHIFT},
-        {optionKey, m_alt},
-        {controlKey, XCB_MOD_MASK_CONTROL},
-    };
     std::uint16_t state = 0;
-    for (const auto& [modifier, mask] : masks) {
+    for (const auto& [modifier, mask] : masks()) {
         if ((modifiers & modifier) == 0) {
             continue;
         }
@@ -71,6 +64,23 @@ std::optional<std::uint16_t> ModifierMap::state(std::uint32_t modifiers) const {
         state |= mask;
     }
     return state;
+}
+
+std::uint32_t ModifierMap::modifiers(std::uint16_t state) const {
+    std::uint32_t held = 0;
+    for (const auto& [modifier, mask] : masks()) {
+        held |= (state & mask) != 0 ? modifier : 0;
+    }
+    return held;
+}
+
+std::array<ModifierMap::Mask, 4> ModifierMap::masks() const {
+    return {{
+        {cmdKey, m_super},
+        {shiftKey, XCB_MOD_MASK_SHIFT},
+        {optionKey, m_alt},
+        {controlKey, XCB_MOD_MASK_CONTROL},
+    }};
 }
 
 std::uint16_t ModifierMap::locks() const {

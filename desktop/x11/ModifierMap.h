@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace quillon::desktop {
@@ -27,6 +28,9 @@ public:
     /// of them. Bits of the mask that are no modifier are ignored.
     std::optional<std::uint16_t> state(std::uint32_t modifiers) const;
 
+    /// Which modifiers are held in a state; locks and buttons are left out.
+    std::uint32_t modifiers(std::uint16_t state) const;
+
     /// All the lock modifiers together: Caps Lock, and Num Lock and Scroll Lock where they are
     /// bound.
     std::uint16_t locks() const;
@@ -37,6 +41,10 @@ public:
     friend bool operator==(const ModifierMap&, const ModifierMap&) = default;
 
 private:
+    /// A bit of a modifier mask, and what it is in a state.
+    using Mask = std::pair<std::uint32_t, std::uint16_t>;
+    std::array<Mask, 4> masks() const;
+
     // Masks; zero where no key is bound to a modifier.
     std::uint16_t m_super = 0;
     std::uint16_t m_alt = 0;

@@ -79,4 +79,14 @@ TEST(ModifierMap, lists_every_state_of_the_lock_modifiers_once) {
         states, [&](std::uint16_t state) { return (state & ~map.locks()) == 0; }));
 }
 
+TEST(ModifierMap, tells_the_modifiers_of_a_state_and_leaves_locks_and_buttons_out) {
+    const ModifierMap map = ModifierMap::usual();
+    for (const std::uint32_t modifiers :
+         {cmdKey, shiftKey, optionKey, controlKey, cmdKey | shiftKey | optionKey | controlKey}) {
+        EXPECT_EQ(map.modifiers(*map.state(modifiers)), modifiers);
+    }
+    EXPECT_EQ(map.modifiers(map.locks()), 0U);
+    EXPECT_EQ(map.modifiers(XCB_BUTTON_MASK_1), 0U);
+}
+
 } // namespace quillon::test
