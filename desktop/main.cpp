@@ -12,6 +12,7 @@
 #include "desktop/qt/QtWorkspace.h"
 #include "desktop/qt/UnixSignals.h"
 #include "desktop/qt/X11EventFilter.h"
+#include "desktop/qt/settings/SettingsWidget.h"
 #include "desktop/storage/SqliteDefaults.h"
 #include "desktop/x11/GrabbedKeyboard.h"
 #include "desktop/x11/Monitors.h"
@@ -60,8 +61,17 @@ void prepareToolkit() {
     // is for the user's own autostart to say: there is nothing to tell a session manager.
     QCoreApplication::setAttribute(Qt::AA_DisableSessionManager);
     QGuiApplication::setDesktopFileName("quillon-mark");
+    // No display name is set: the toolkit would write it behind the title of every window.
     QCoreApplication::setApplicationName("quillon-mark");
-    QGuiApplication::setApplicationDisplayName("Quillon Mark");
+}
+
+/// The settings are the one view that is made of controls.
+ControlsLayout controlsLayout(const X11HotKeys& hotKeys) {
+    return [&hotKeys](ControlsView& view) {
+        return std::make_unique<SettingsWidget>(
+            dynamic_cast<SettingsView&>(view),
+            [&hotKeys](const QKeyEvent& event) { return readKey(event, hotKeys.keyboardMap()); });
+    };
 }
 
 /// Makes the ports, gives them to the system, and runs the loop to its end.
@@ -76,11 +86,11 @@ int run(QApplication& application, xcb_connection_t* connection) {
     QtMainQueue mainQueue;
     SqliteDefaults userDefaults(userConfigFolder());
     QtApplication system;
-    QtWindows windows(connection);
     MonitorNumbers monitorNumbers(connection);
     QtScreens screens([connection] { return activeWindowFrame(connection); },
                       [&](const std::string& name) { return monitorNumbers.numberOf(name); });
     X11HotKeys hotKeys(connection, root);
+    QtWindows windows(connection, system, controlsLayout(hotKeys));
     X11EventFilter events;
     // The toolkit would take a shortcut held down for a loss of the keyboard, and end text entry.
     const auto grabEvents = events.addHandler(tellsOfKeyboardGrab);

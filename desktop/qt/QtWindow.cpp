@@ -1,9 +1,11 @@
 #include "desktop/qt/QtWindow.h"
 
 #include "desktop/qt/QtConversions.h"
+#include "desktop/qt/TitledWindows.h"
 #include "desktop/x11/BlurBehind.h"
 #include "desktop/x11/WindowShape.h"
 
+#include <QGuiApplication>
 #include <QTimer>
 #include <QWindow>
 
@@ -31,6 +33,8 @@ QtWindow::QtWindow(Window& window, const Surroundings& surroundings)
     , m_compositorChange(surroundings.compositor.changed.sink([this] { followCompositor(); })) {
     m_widget.setWindowFlags(Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint |
                             Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint | Qt::Tool);
+    QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, &m_widget,
+                     [this] { stayBelowTitledWindows(); });
     m_widget.onEditingChanged = [this] { giveBackKeyboardIfUnused(); };
     m_widget.onControlsPlaced = [this](const QRect& place) { blurBehind(place); };
     m_widget.onFreeRegionChanged = [this] { followFreeRegion(); };
@@ -54,6 +58,7 @@ void QtWindow::display() {
 }
 
 void QtWindow::setIgnoresMouseEvents(bool ignores) {
+    stayBelowTitledWindows();
     grabPointerIfNeeded();
     setInputRegion(m_surroundings.connection, nativeWindow(),
                    ignores ? InputRegion::empty : InputRegion::window);
@@ -71,7 +76,14 @@ void QtWindow::orderFrontRegardless() {
         m_widget.setBackgroundColor(toQColor(m_window.backgroundColor()));
     }
     m_placement.bringToFront();
+    stayBelowTitledWindows();
     grabPointerIfNeeded();
+}
+
+void QtWindow::stayBelowTitledWindows() {
+    if (!m_window.ignoresMouseEvents()) {
+        keepBelowTitledWindows(m_surroundings.connection, nativeWindow());
+    }
 }
 
 void QtWindow::followCompositor() {

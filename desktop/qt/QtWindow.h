@@ -40,6 +40,9 @@ public:
     void orderOut() override;
 
 private:
+    /// A window that takes the pointer would bar the way to the titled windows. Called whenever it
+    /// may have come above them.
+    void stayBelowTitledWindows();
     void followCompositor();
     void grabPointerIfNeeded();
     void confirmGrab();

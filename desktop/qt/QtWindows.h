@@ -1,7 +1,10 @@
 #pragma once
 
+#include "desktop/qt/QtTitledWindow.h"
 #include "desktop/x11/CompositorWatch.h"
 #include "platform/Window.h"
+
+#include <utility>
 
 #include <xcb/xcb.h>
 
@@ -10,8 +13,11 @@ namespace quillon::desktop {
 /// Makes the windows of the system, on the toolkit's connection to the X server.
 class QtWindows : public Windows {
 public:
-    explicit QtWindows(xcb_connection_t* connection)
+    /// `application` outlives this. `layOutControls` makes the content of titled windows.
+    QtWindows(xcb_connection_t* connection, Application& application, ControlsLayout layOutControls)
         : m_connection(connection)
+        , m_application(application)
+        , m_layOutControls(std::move(layOutControls))
         , m_compositor(connection) {}
 
     std::unique_ptr<WindowBackend> makeWindow(Window& window) override;
@@ -25,6 +31,8 @@ public:
 
 private:
     xcb_connection_t* m_connection;
+    Application& m_application;
+    ControlsLayout m_layOutControls;
     CompositorWatch m_compositor;
     int m_pointerHolders = 0;
 };

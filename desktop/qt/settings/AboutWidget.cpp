@@ -1,0 +1,106 @@
+#include "desktop/qt/settings/AboutWidget.h"
+
+#include "desktop/qt/QtImages.h"
+#include "desktop/qt/settings/Look.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace quillon::desktop {
+
+namespace {
+
+constexpr int kPadding = 16;
+constexpr int kFactSymbolSize = 16;
+
+/// A symbol in the colour of its part, or an asset in its own.
+class Picture : public QWidget {
+public:
+    Picture(Image image, QSize size, SystemColor tint)
+        : m_image(std::move(image))
+        , m_tint(tint) {
+        setFixedSize(size);
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter painter(this);
+        if (m_image.kind == Image::Kind::asset) {
+            QtImages::icon(m_image, SymbolTint::none).paint(&painter, rect());
+            return;
+        }
+        painter.drawPixmap(0, 0,
+                           QtImages::symbolPixmap(QString::fromStdString(m_image.name), size(),
+                                                  devicePixelRatio(),
+                                                  look::color(m_tint, palette())));
+    }
+
+private:
+    Image m_image;
+    SystemColor m_tint;
+};
+
+/// The line across the page.
+class Divider : public QWidget {
+public:
+    Divider() { setFixedHeight(1); }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter(this).fillRect(rect(), look::hairline(palette()));
+    }
+};
+
+QLabel* makeText(const std::string& string, const QFont& font, SystemColor role) {
+    auto* label = new QLabel(QString::fromStdString(string));
+    label->setTextFormat(Qt::PlainText);
+    label->setFont(font);
+    QPalette palette;
+    palette.setColor(QPalette::WindowText, look::color(role, palette));
+    label->setPalette(palette);
+    return label;
+}
+
+} // namespace
+
+AboutWidget::AboutWidget(const AboutPage& page, QWidget* parent)
+    : QWidget(parent) {
+    setAccessibleName(QString::fromStdString(page.navigationTitle));
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(kPadding, kPadding, kPadding, kPadding);
+    column->setSpacing(qRound(AboutPage::spacing));
+    column->addStretch();
+
+    const QSize iconSize(qRound(AboutPage::iconSize.width), qRound(AboutPage::iconSize.height));
+    QWidget* const icon = page.icon ? new Picture(*page.icon, iconSize, SystemColor::controlAccent)
+                                    : new QWidget(this);
+    icon->setFixedSize(iconSize);
+    column->addWidget(icon, 0, Qt::AlignHCenter);
+    column->addWidget(makeText(page.name, look::title(), SystemColor::label), 0, Qt::AlignHCenter);
+    column->addWidget(makeText(page.purpose, look::headline(), SystemColor::secondaryLabel), 0,
+                      Qt::AlignHCenter);
+    column->addWidget(new Divider);
+
+    auto* facts = new QWidget;
+    auto* lines = new QVBoxLayout(facts);
+    lines->setContentsMargins(0, 0, 0, 0);
+    lines->setSpacing(qRound(AboutPage::lineSpacing));
+    for (const AboutLine& fact : page.lines) {
+        auto* line = new QHBoxLayout;
+        line->setSpacing(kFactSymbolSize / 2);
+        line->addWidget(new Picture(Image{Image::Kind::symbol, fact.symbol, {}, {}},
+                                    {kFactSymbolSize, kFactSymbolSize},
+                                    SystemColor::secondaryLabel));
+        line->addWidget(makeText(fact.text, look::subheadline(), SystemColor::secondaryLabel));
+        line->addStretch();
+        lines->addLayout(line);
+    }
+    column->addWidget(facts, 0, Qt::AlignHCenter);
+    column->addStretch();
+}
+
+} // namespace quillon::desktop

@@ -1,0 +1,155 @@
+#include "desktop/qt/settings/FormRows.h"
+
+#include "desktop/qt/QtImages.h"
+#include "desktop/qt/settings/ColorCircle.h"
+#include "desktop/qt/settings/Look.h"
+#include "desktop/qt/settings/PickerWidget.h"
+#include "desktop/qt/settings/ShortcutRowWidget.h"
+#include "desktop/qt/settings/StopSlider.h"
+#include "desktop/qt/settings/SwatchWidget.h"
+#include "desktop/qt/settings/SwitchWidget.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QSignalBlocker>
+
+#include <initializer_list>
+#include <variant>
+
+namespace quillon::desktop {
+
+namespace {
+
+constexpr int kRowHeight = 37;
+constexpr int kSpacing = 8;
+
+QString text(const std::string& string) {
+    return QString::fromStdString(string);
+}
+
+QLabel* makeLabel(const std::string& string, const QFont& font) {
+    auto* label = new QLabel(text(string));
+    label->setTextFormat(Qt::PlainText);
+    label->setFont(font);
+    return label;
+}
+
+/// A label at the left, widgets at the right.
+QWidget* makeRow(const std::string& label, std::initializer_list<QWidget*> controls) {
+    auto* row = new QWidget;
+    row->setMinimumHeight(kRowHeight);
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(kSpacing);
+    layout->addWidget(makeLabel(label, look::body()));
+    layout->addStretch();
+    for (QWidget* control : controls) {
+        layout->addWidget(control);
+    }
+    return row;
+}
+
+/// The symbol beside a slider's end.
+class EndSymbol : public QWidget {
+public:
+    EndSymbol(const std::string& symbol, int size)
+        : m_symbol(text(symbol)) {
+        setFixedSize(size + 2, size + 2);
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter painter(this);
+        painter.drawPixmap(0, 0,
+                           QtImages::symbolPixmap(m_symbol, size(), devicePixelRatio(),
+                                                  look::color(SystemColor::label, palette())));
+    }
+
+private:
+    QString m_symbol;
+};
+
+/// Makes a row of each kind.
+struct RowMaker {
+    const KeyReader& readKey;
+
+    FormRowWidgets operator()(const ToggleRow& row) const {
+        auto* toggle = new SwitchWidget;
+        toggle->setAccessibleName(text(row.label));
+        toggle->setChecked(row.isOn.get());
+        QObject::connect(toggle, &QCheckBox::toggled, toggle,
+                         [isOn = row.isOn](bool checked) { isOn.set(checked); });
+        return {makeRow(row.label, {toggle}), [toggle, isOn = row.isOn] {
+                    const QSignalBlocker silence(toggle);
+                    toggle->setChecked(isOn.get());
+                }};
+    }
+
+    FormRowWidgets operator()(const PickerRow& row) const {
+        auto* picker = new PickerWidget;
+        picker->setAccessibleName(text(row.title));
+        picker->setFont(look::body());
+        for (const auto& entry : row.entries) {
+            picker->addItem(text(entry));
+        }
+        picker->setCurrentIndex(static_cast<int>(row.selection()));
+        QObject::connect(
+            picker, &QComboBox::currentIndexChanged, picker,
+            [select = row.select](int index) { select(static_cast<std::size_t>(index)); });
+        return {makeRow(row.title, {picker}), [picker, selection = row.selection] {
+                    const QSignalBlocker silence(picker);
+                    picker->setCurrentIndex(static_cast<int>(selection()));
+                }};
+    }
+
+    FormRowWidgets operator()(const SliderRow& row) const {
+        auto* slider = new StopSlider(row.lastStop());
+        slider->setAccessibleName(text(row.label));
+        slider->setFixedWidth(qRound(row.sliderWidth));
+        slider->setValue(row.stop());
+        auto* value = makeLabel(row.text(), look::monospacedCaption());
+        value->setFixedWidth(qRound(row.valueWidth));
+        value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        QObject::connect(slider, &QSlider::valueChanged, slider,
+                         [row](int stop) { row.moveTo(stop); });
+
+        const auto refresh = [slider, value, row] {
+            const QSignalBlocker silence(slider);
+            slider->setValue(row.stop());
+            value->setText(text(row.text()));
+            slider->setAccessibleDescription(value->text());
+        };
+        if (!row.ends) {
+            return {makeRow(row.label, {slider, value}), refresh};
+        }
+        auto* minimum = new EndSymbol(row.ends->symbol, look::captionSize);
+        auto* maximum = new EndSymbol(row.ends->symbol, look::title2Size);
+        return {makeRow(row.label, {minimum, slider, maximum, value}), refresh};
+    }
+
+    FormRowWidgets operator()(const SwatchRow& row) const {
+        auto* swatch = new SwatchWidget(row.swatch);
+        swatch->setAccessibleName(text(row.label));
+        return {makeRow(row.label, {swatch}), [swatch] { swatch->refresh(); }};
+    }
+
+    FormRowWidgets operator()(const ColorPickerRow& row) const {
+        auto* circle = new ColorCircle(row);
+        circle->setAccessibleName(text(row.title));
+        return {makeRow(row.title, {circle}), [circle] { circle->refresh(); }};
+    }
+
+    FormRowWidgets operator()(const ShortcutRow& row) const {
+        auto* shortcut = new ShortcutRowWidget(row, readKey);
+        return {makeRow(row.label, {shortcut}), [shortcut] { shortcut->refresh(); }};
+    }
+};
+
+} // namespace
+
+FormRowWidgets makeFormRow(const FormRow& row, const KeyReader& readKey) {
+    return std::visit(RowMaker{readKey}, row);
+}
+
+} // namespace quillon::desktop

@@ -1,0 +1,41 @@
+#include "desktop/qt/settings/GroupBox.h"
+
+#include "desktop/qt/settings/Look.h"
+
+#include <QPainter>
+#include <QVBoxLayout>
+
+namespace quillon::desktop {
+
+namespace {
+
+constexpr qreal kCornerRadius = 8;
+constexpr int kRowInset = 12;
+
+} // namespace
+
+GroupBox::GroupBox(QWidget* parent)
+    : QWidget(parent)
+    , m_rows(new QVBoxLayout(this)) {
+    m_rows->setContentsMargins(kRowInset, 0, kRowInset, 0);
+    m_rows->setSpacing(0);
+}
+
+void GroupBox::addRow(QWidget* row) {
+    m_rows->addWidget(row);
+}
+
+void GroupBox::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(look::hairline(palette()), 1));
+    painter.setBrush(look::group(palette()));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kCornerRadius,
+                            kCornerRadius);
+    for (int index = 1; index < m_rows->count(); ++index) {
+        const int y = m_rows->itemAt(index)->geometry().top();
+        painter.fillRect(kRowInset, y, width() - 2 * kRowInset, 1, look::hairline(palette()));
+    }
+}
+
+} // namespace quillon::desktop

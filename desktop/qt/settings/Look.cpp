@@ -1,0 +1,107 @@
+#include "desktop/qt/settings/Look.h"
+
+#include "desktop/qt/QtConversions.h"
+
+#include <QFontDatabase>
+
+namespace quillon::desktop::look {
+
+namespace {
+
+constexpr int kBodySize = 13;
+constexpr int kSubheadlineSize = 12;
+constexpr int kTitleSize = 22;
+
+bool isDark(const QPalette& palette) {
+    return palette.color(QPalette::Window).lightnessF() < 0.5F;
+}
+
+/// `part` of `over` on `ground`.
+QColor blend(const QColor& ground, const QColor& over, float part) {
+    const auto mix = [part](float from, float to) { return from + (to - from) * part; };
+    return QColor::fromRgbF(mix(ground.redF(), over.redF()), mix(ground.greenF(), over.greenF()),
+                            mix(ground.blueF(), over.blueF()));
+}
+
+QColor withAlpha(QColor color, float alpha) {
+    color.setAlphaF(alpha);
+    return color;
+}
+
+QFont weighted(QFont font, QFont::Weight weight) {
+    font.setWeight(weight);
+    return font;
+}
+
+} // namespace
+
+QColor page(const QPalette& palette) {
+    return blend(palette.color(QPalette::Window), palette.color(QPalette::WindowText), 0.02F);
+}
+
+QColor group(const QPalette& palette) {
+    return blend(palette.color(QPalette::Window), Qt::white, isDark(palette) ? 0.06F : 0.75F);
+}
+
+QColor hairline(const QPalette& palette) {
+    return withAlpha(palette.color(QPalette::WindowText), 0.1F);
+}
+
+QColor outline(const QPalette& palette) {
+    return withAlpha(palette.color(QPalette::WindowText), 0.28F);
+}
+
+QColor track(const QPalette& palette) {
+    return withAlpha(palette.color(QPalette::WindowText), 0.18F);
+}
+
+QColor color(SystemColor role, const QPalette& palette) {
+    switch (role) {
+    case SystemColor::controlAccent:
+        return palette.color(QPalette::Highlight);
+    case SystemColor::controlBackground:
+        return blend(palette.color(QPalette::Window), palette.color(QPalette::WindowText),
+                     isDark(palette) ? 0.16F : 0.06F);
+    case SystemColor::label:
+        return palette.color(QPalette::WindowText);
+    case SystemColor::secondaryLabel:
+        return withAlpha(palette.color(QPalette::WindowText), 0.62F);
+    case SystemColor::white:
+        return Qt::white;
+    case SystemColor::windowBackground:
+        return palette.color(QPalette::Window);
+    }
+    return {};
+}
+
+QFont body() {
+    return systemFont(kBodySize);
+}
+
+QFont caption() {
+    return systemFont(captionSize);
+}
+
+QFont monospacedCaption() {
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setPixelSize(captionSize);
+    return font;
+}
+
+QFont roundedBoldCaption() {
+    return weighted(caption(), QFont::Bold);
+}
+
+QFont subheadline() {
+    return systemFont(kSubheadlineSize);
+}
+
+QFont headline() {
+    return weighted(body(), QFont::DemiBold);
+}
+
+QFont title() {
+    return weighted(systemFont(kTitleSize), QFont::Bold);
+}
+
+} // namespace quillon::desktop::look

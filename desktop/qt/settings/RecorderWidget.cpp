@@ -1,0 +1,131 @@
+#include "desktop/qt/settings/RecorderWidget.h"
+
+#include "desktop/qt/QtConversions.h"
+#include "desktop/qt/settings/FocusRing.h"
+#include "desktop/qt/settings/Look.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTimer>
+#include <QWindow>
+
+#include <chrono>
+#include <utility>
+
+namespace quillon::desktop {
+
+namespace {
+
+constexpr std::chrono::milliseconds kGrabAgain{30};
+
+} // namespace
+
+RecorderWidget::RecorderWidget(const ShortcutRecorderView& view, KeyReader readKey, QWidget* parent)
+    : QWidget(parent)
+    , m_control(view.makeControl())
+    , m_readKey(std::move(readKey)) {
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(QString::fromUtf8(
+        ShortcutRecorderControl::accessibilityLabel.data(),
+        static_cast<qsizetype>(ShortcutRecorderControl::accessibilityLabel.size())));
+    m_control->makeFirstResponder = [this] { setFocus(Qt::MouseFocusReason); };
+    m_control->setNeedsDisplay = [this] { update(); };
+}
+
+RecorderWidget::~RecorderWidget() {
+    setGrabbed(false);
+}
+
+void RecorderWidget::follow(const ShortcutRecorderView& view) {
+    view.updateControl(*m_control);
+    updateGrab();
+}
+
+bool RecorderWidget::event(QEvent* event) {
+    switch (event->type()) {
+    case QEvent::ShortcutOverride:
+        // A combination that means something to the window is to be recorded, not carried out.
+        event->setAccepted(m_control->isRecording());
+        return true;
+    case QEvent::WindowActivate:
+    case QEvent::WindowDeactivate:
+        updateGrab();
+        break;
+    default:
+        break;
+    }
+    return QWidget::event(event);
+}
+
+bool RecorderWidget::focusNextPrevChild(bool next) {
+    return !m_control->isRecording() && QWidget::focusNextPrevChild(next);
+}
+
+void RecorderWidget::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const qreal radius = ShortcutRecorderControl::cornerRadius;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(look::color(m_control->fill(), palette()));
+    painter.drawRoundedRect(rect(), radius, radius);
+
+    const auto& title = m_control->titleField();
+    QFont font = systemFont(ShortcutRecorderControl::TitleField::fontSize);
+    font.setWeight(QFont::Medium);
+    painter.setFont(font);
+    painter.setPen(look::color(title.textColor, palette()));
+    painter.drawText(rect(), Qt::AlignCenter, QString::fromStdString(title.stringValue));
+    if (FocusRing::isShown(*this) && !m_control->isRecording()) {
+        const QRectF inside = QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5);
+        FocusRing::paint(painter, inside, radius - 2.5, palette());
+    }
+}
+
+void RecorderWidget::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) {
+        m_control->mouseDown();
+    }
+}
+
+void RecorderWidget::keyPressEvent(QKeyEvent* event) {
+    // Whatever the control makes of it, the key goes no further.
+    event->accept();
+    if (const auto key = m_readKey(*event)) {
+        m_control->keyDown(*key);
+    }
+}
+
+void RecorderWidget::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    updateGrab();
+}
+
+void RecorderWidget::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    updateGrab();
+}
+
+void RecorderWidget::hideEvent(QHideEvent* event) {
+    QWidget::hideEvent(event);
+    setGrabbed(false);
+}
+
+void RecorderWidget::updateGrab() {
+    setGrabbed(m_control->isRecording() && hasFocus() && isActiveWindow() && isVisible());
+}
+
+void RecorderWidget::setGrabbed(bool grabbed) {
+    if (m_hasGrab == grabbed) {
+        return;
+    }
+    QWindow* shown = window()->windowHandle();
+    const bool done = shown && shown->setKeyboardGrabEnabled(grabbed);
+    m_hasGrab = grabbed && done;
+    if (grabbed && !done) {
+        // Another program holds the keyboard at the moment; that passes.
+        QTimer::singleShot(kGrabAgain, this, [this] { updateGrab(); });
+    }
+}
+
+} // namespace quillon::desktop

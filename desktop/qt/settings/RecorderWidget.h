@@ -1,0 +1,46 @@
+#pragma once
+
+#include "desktop/qt/settings/KeyReader.h"
+#include "settings/SettingsView.h"
+
+#include <QWidget>
+
+#include <memory>
+
+namespace quillon::desktop {
+
+/// Shows a recorder control and gives it clicks and keys.
+///
+/// While it records and has the keyboard, it holds the keyboard alone, so that combinations that
+/// the desktop has taken for itself arrive here too. It lets go when the recording ends, when it
+/// loses the keyboard and when it goes off the screen; the server lets go of it when the program
+/// ends.
+class RecorderWidget : public QWidget {
+public:
+    RecorderWidget(const ShortcutRecorderView& view, KeyReader readKey, QWidget* parent = nullptr);
+    ~RecorderWidget() override;
+
+    void follow(const ShortcutRecorderView& view);
+    /// As a click.
+    void press() { m_control->mouseDown(); }
+
+protected:
+    bool event(QEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    void updateGrab();
+    void setGrabbed(bool grabbed);
+
+    std::unique_ptr<ShortcutRecorderControl> m_control;
+    KeyReader m_readKey;
+    bool m_hasGrab = false;
+};
+
+} // namespace quillon::desktop

@@ -1,0 +1,104 @@
+#include "desktop/qt/settings/SwatchWidget.h"
+
+#include "desktop/qt/QtConversions.h"
+#include "desktop/qt/settings/FocusRing.h"
+#include "desktop/qt/settings/Look.h"
+
+#include <QColorDialog>
+#include <QPainter>
+#include <QPainterPath>
+#include <QSignalBlocker>
+
+#include <utility>
+
+namespace quillon::desktop {
+
+namespace {
+
+constexpr qreal kCornerRadius = 5;
+constexpr int kCheck = 4;
+
+/// What shows through a colour that is not opaque.
+void paintChecks(QPainter& painter, const QRect& area) {
+    painter.fillRect(area, Qt::white);
+    for (int y = area.top(); y <= area.bottom(); y += kCheck) {
+        for (int x = area.left(); x <= area.right(); x += kCheck) {
+            if (((x - area.left()) / kCheck + (y - area.top()) / kCheck) % 2 == 1) {
+                painter.fillRect(x, y, kCheck, kCheck, QColor(200, 200, 200));
+            }
+        }
+    }
+}
+
+Color fromQColor(const QColor& color) {
+    return {color.redF(), color.greenF(), color.blueF(), color.alphaF()};
+}
+
+} // namespace
+
+SwatchWidget::SwatchWidget(ColorPickerSwatch swatch, QWidget* parent)
+    : QAbstractButton(parent)
+    , m_swatch(std::move(swatch))
+    , m_shown(m_swatch.color.get()) {
+    setFocusPolicy(Qt::StrongFocus);
+    setFixedSize(sizeHint());
+    connect(this, &QAbstractButton::clicked, this, [this] { openPanel(); });
+}
+
+void SwatchWidget::refresh() {
+    const Color present = m_swatch.color.get();
+    if (present == m_shown) {
+        return;
+    }
+    m_shown = present;
+    update();
+    if (m_panel && m_panel->currentColor() != toQColor(present)) {
+        const QSignalBlocker silence(m_panel);
+        m_panel->setCurrentColor(toQColor(present));
+    }
+}
+
+QSize SwatchWidget::sizeHint() const {
+    return (QSizeF(ColorPickerSwatch::size.width, ColorPickerSwatch::size.height) +
+            QSizeF(2, 2) * FocusRing::room)
+        .toSize();
+}
+
+void SwatchWidget::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRect well =
+        rect().adjusted(FocusRing::room, FocusRing::room, -FocusRing::room, -FocusRing::room);
+    QPainterPath shape;
+    shape.addRoundedRect(well, kCornerRadius, kCornerRadius);
+    painter.save();
+    painter.setClipPath(shape);
+    paintChecks(painter, well);
+    painter.fillRect(well, toQColor(m_shown));
+    painter.restore();
+    painter.setPen(QPen(look::outline(palette()), 1));
+    painter.drawRoundedRect(QRectF(well).adjusted(0.5, 0.5, -0.5, -0.5), kCornerRadius - 0.5,
+                            kCornerRadius - 0.5);
+    if (FocusRing::isShown(*this)) {
+        FocusRing::paint(painter, well, kCornerRadius, palette());
+    }
+}
+
+void SwatchWidget::openPanel() {
+    if (!m_panel) {
+        m_panel = new QColorDialog(toQColor(m_shown), this);
+        m_panel->setAttribute(Qt::WA_DeleteOnClose);
+        m_panel->setOption(QColorDialog::ShowAlphaChannel, ColorPickerSwatch::supportsOpacity);
+        m_panel->setOption(QColorDialog::DontUseNativeDialog);
+        // The colour changes as the panel is moved: there is nothing to confirm or to take back.
+        m_panel->setOption(QColorDialog::NoButtons);
+        m_panel->setWindowTitle(QStringLiteral("Colors"));
+        connect(m_panel, &QColorDialog::currentColorChanged, this,
+                [this](const QColor& color) { m_swatch.color.set(fromQColor(color)); });
+    }
+    m_panel->show();
+    m_panel->raise();
+    m_panel->activateWindow();
+}
+
+} // namespace quillon::desktop

@@ -1,0 +1,65 @@
+#include "desktop/qt/settings/TabButtonWidget.h"
+
+#include "desktop/qt/QtConversions.h"
+#include "desktop/qt/QtImages.h"
+#include "desktop/qt/settings/FocusRing.h"
+#include "desktop/qt/settings/Look.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+
+namespace quillon::desktop {
+
+namespace {
+
+/// A glyph is a little larger than the font of its size.
+constexpr int kSymbolSize = 20;
+
+QFont textFont() {
+    return systemFont(TabButton::textFontSize);
+}
+
+} // namespace
+
+TabButtonWidget::TabButtonWidget(const TabButton& button, QWidget* parent)
+    : QAbstractButton(parent)
+    , m_symbol(QString::fromStdString(button.symbol))
+    , m_label(QString::fromStdString(button.label)) {
+    setCheckable(true);
+    setAutoExclusive(true);
+    setChecked(button.isSelected);
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(m_label);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+}
+
+QSize TabButtonWidget::sizeHint() const {
+    const int text = QFontMetrics(textFont()).height();
+    return {80, qRound(2 * TabButton::verticalPadding + kSymbolSize + TabButton::spacing) + text};
+}
+
+void TabButtonWidget::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor accent = look::color(SystemColor::controlAccent, palette());
+    const QColor ink = isChecked() ? accent : look::color(SystemColor::label, palette());
+    if (isChecked()) {
+        QColor ground = accent;
+        ground.setAlphaF(static_cast<float>(TabButton::selectedGroundOpacity));
+        painter.fillRect(rect(), ground);
+    }
+    const int top = qRound(TabButton::verticalPadding);
+    painter.drawPixmap(
+        (width() - kSymbolSize) / 2, top,
+        QtImages::symbolPixmap(m_symbol, QSize(kSymbolSize, kSymbolSize), devicePixelRatio(), ink));
+    painter.setFont(textFont());
+    painter.setPen(ink);
+    const int textTop = top + kSymbolSize + qRound(TabButton::spacing);
+    painter.drawText(QRect(0, textTop, width(), height() - textTop),
+                     Qt::AlignHCenter | Qt::AlignTop | Qt::TextSingleLine, m_label);
+    if (FocusRing::isShown(*this)) {
+        FocusRing::paint(painter, QRectF(rect()).adjusted(3, 3, -3, -3), 4, palette());
+    }
+}
+
+} // namespace quillon::desktop
