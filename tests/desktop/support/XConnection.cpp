@@ -52,6 +52,17 @@ std::vector<std::uint32_t> XConnection::property(xcb_window_t window,
     return {values, values + reply->value_len};
 }
 
+std::string XConnection::text(xcb_window_t window, const std::string& name) const {
+    const auto cookie = xcb_get_property(m_connection, 0, window, atom(name), XCB_ATOM_ANY, 0, 64);
+    const XOwned<xcb_get_property_reply_t> reply(
+        xcb_get_property_reply(m_connection, cookie, nullptr));
+    if (!reply || reply->format != 8) {
+        return {};
+    }
+    const auto* bytes = static_cast<const char*>(xcb_get_property_value(reply.get()));
+    return {bytes, reply->value_len};
+}
+
 void XConnection::askWindowManager(const std::string& message, xcb_window_t window,
                                    const std::vector<std::uint32_t>& values) const {
     xcb_client_message_event_t event{};

@@ -35,6 +35,8 @@ public:
     xcb_window_t focusedWindow() const;
     /// The 32-bit values of a property of a window, at most 64 of them; empty when there is none.
     std::vector<std::uint32_t> property(xcb_window_t window, const std::string& name) const;
+    /// A property that is a text, at most 256 bytes of it; empty when there is none.
+    std::string text(xcb_window_t window, const std::string& name) const;
     /// Sends a message about a window to the window manager, as a pager or task bar does.
     void askWindowManager(const std::string& message, xcb_window_t window,
                           const std::vector<std::uint32_t>& values) const;
