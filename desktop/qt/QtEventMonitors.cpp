@@ -1,5 +1,7 @@
 #include "desktop/qt/QtEventMonitors.h"
 
+#include "desktop/x11/XcbHandles.h"
+
 #include <QCoreApplication>
 #include <QEvent>
 #include <QTimerEvent>
@@ -67,7 +69,12 @@ void QtEventMonitors::removeMonitor(EventMonitorToken token) {
 }
 
 CGPoint QtEventMonitors::mouseLocation() const {
-    return m_reportedPlace ? *m_reportedPlace : globalPlace(pointerState(m_connection));
+    if (m_reportedPlace) {
+        return *m_reportedPlace;
+    }
+    const XcbOwned<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(
+        m_connection, xcb_query_pointer(m_connection, rootWindow(m_connection)), nullptr));
+    return reply ? m_surroundings.toGlobal(QPoint(reply->root_x, reply->root_y)) : CGPoint();
 }
 
 bool QtEventMonitors::listen() {
@@ -132,10 +139,10 @@ void QtEventMonitors::timerEvent(QTimerEvent* event) {
 void QtEventMonitors::reportToGlobal(const RawPointerEvent& raw) {
     const PointerState pointer = m_rawEvents->pointer();
     const bool isDrag = raw.kind == RawPointerEvent::Kind::motion && pointer.isButtonHeld;
-    if (isDrag || m_surroundings.holdsPointer() || m_rawEvents->goesTo(m_ownIds, pointer)) {
+    if (isDrag || m_surroundings.holdsPointer() || m_ownIds.contains(pointer.window)) {
         return;
     }
-    m_reportedPlace = globalPlace(pointer);
+    m_reportedPlace = m_surroundings.toGlobal(QPoint(pointer.x, pointer.y));
     m_globalMonitors.report({typeOf(raw)});
     m_reportedPlace.reset();
 }

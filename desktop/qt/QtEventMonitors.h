@@ -56,9 +56,6 @@ private:
     bool listen();
     void readRawEvents();
     void reportToGlobal(const RawPointerEvent& raw);
-    CGPoint globalPlace(const PointerState& pointer) const {
-        return m_surroundings.toGlobal(QPoint(pointer.x, pointer.y));
-    }
 
     xcb_connection_t* m_connection;
     std::string m_display;

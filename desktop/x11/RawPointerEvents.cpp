@@ -56,15 +56,6 @@ ClientIds::ClientIds(xcb_connection_t* connection)
     : m_base(xcb_get_setup(connection)->resource_id_base)
     , m_mask(xcb_get_setup(connection)->resource_id_mask) {}
 
-PointerState pointerState(xcb_connection_t* connection) {
-    const XcbOwned<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(
-        connection, xcb_query_pointer(connection, rootWindow(connection)), nullptr));
-    if (!reply) {
-        return {};
-    }
-    return {reply->root_x, reply->root_y, (reply->mask & kButtonBits) != 0, reply->child};
-}
-
 std::unique_ptr<RawPointerEvents> RawPointerEvents::listen(const std::string& display) {
     Connection connection(xcb_connect(display.c_str(), nullptr));
     if (xcb_connection_has_error(connection.get()) != 0) {
@@ -126,17 +117,44 @@ std::uint8_t RawPointerEvents::mappedButton(std::uint32_t physicalButton) const 
     return xcb_get_pointer_mapping_map(mapping.get())[physicalButton - 1];
 }
 
-bool RawPointerEvents::goesTo(const ClientIds& client, const PointerState& pointer) const {
-    for (xcb_window_t window = pointer.topWindow; window != noWindow;) {
-        if (client.contains(window)) {
-            return true;
-        }
-        // The window may go at any time; then there is nothing further down.
-        const XcbOwned<xcb_query_pointer_reply_t> inside(xcb_query_pointer_reply(
-            m_connection.get(), xcb_query_pointer(m_connection.get(), window), nullptr));
-        window = inside ? inside->child : noWindow;
+PointerState RawPointerEvents::pointer() {
+    xcb_connection_t* connection = m_connection.get();
+    // The way down is mostly that of the last time: all its steps are asked for at once, and the
+    // time of a single answer goes by.
+    std::vector<xcb_query_pointer_cookie_t> asked;
+    for (const xcb_window_t window : m_wayDown) {
+        asked.push_back(xcb_query_pointer(connection, window));
     }
-    return false;
+    PointerState state;
+    std::vector<xcb_window_t> wayDown;
+    for (xcb_window_t window = rootWindow(connection); window != noWindow;) {
+        const std::size_t step = wayDown.size();
+        if (step < asked.size() && window != m_wayDown[step]) {
+            discard(asked, step);
+        }
+        const auto cookie =
+            step < asked.size() ? asked[step] : xcb_query_pointer(connection, window);
+        // A window may go at any time; then there is nothing further down.
+        const XcbOwned<xcb_query_pointer_reply_t> reply(
+            xcb_query_pointer_reply(connection, cookie, nullptr));
+        if (step == 0 && reply) {
+            state = {reply->root_x, reply->root_y, (reply->mask & kButtonBits) != 0, noWindow};
+        } else if (step > 0) {
+            state.window = window;
+        }
+        wayDown.push_back(window);
+        window = reply ? reply->child : noWindow;
+    }
+    discard(asked, wayDown.size());
+    m_wayDown = std::move(wayDown);
+    return state;
+}
+
+void RawPointerEvents::discard(std::vector<xcb_query_pointer_cookie_t>& asked,
+                               std::size_t from) const {
+    for (; asked.size() > from; asked.pop_back()) {
+        xcb_discard_reply(m_connection.get(), asked.back().sequence);
+    }
 }
 
 } // namespace quillon::desktop

@@ -2,6 +2,7 @@
 
 #include "desktop/x11/XcbHeaders.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -37,13 +38,11 @@ struct PointerState {
     std::int16_t x = 0;
     std::int16_t y = 0;
     bool isButtonHeld = false;
-    /// The topmost window of the screen that would get a press here, or none. A window that lets
-    /// the pointer through is never the one.
-    xcb_window_t topWindow = 0;
+    /// The innermost window that would get a press here, or none but the root window. It may lie in
+    /// a frame of a window manager or in another program's panel; a window that lets the pointer
+    /// through is never the one.
+    xcb_window_t window = 0;
 };
-
-/// Asks the server; a broken connection answers with the corner of the screen.
-PointerState pointerState(xcb_connection_t* connection);
 
 /// Raw events of all pointer devices, present and future, by the XInput extension on the root
 /// window.
@@ -68,10 +67,8 @@ public:
     /// off.
     void take(std::vector<RawPointerEvent>& events);
 
-    PointerState pointer() const { return pointerState(m_connection.get()); }
-    /// Whether a press at this place would go to a window of that client, also when it lies in a
-    /// frame of a window manager or in another program's panel.
-    bool goesTo(const ClientIds& client, const PointerState& pointer) const;
+    /// Asks the server.
+    PointerState pointer();
 
 private:
     struct Disconnect {
@@ -82,11 +79,15 @@ private:
     RawPointerEvents(Connection connection, std::uint8_t extension);
 
     void note(const xcb_generic_event_t& event, std::vector<RawPointerEvent>& events) const;
+    /// Gives up the answers to all requests from one on.
+    void discard(std::vector<xcb_query_pointer_cookie_t>& asked, std::size_t from) const;
     std::uint8_t mappedButton(std::uint32_t physicalButton) const;
 
     Connection m_connection;
     /// The number by which events name the extension.
     std::uint8_t m_extension;
+    /// From the root window to the one in which the pointer was last.
+    std::vector<xcb_window_t> m_wayDown;
 };
 
 } // namespace quillon::desktop
