@@ -299,6 +299,18 @@ TEST_F(CursorHalo, the_circle_of_a_click_grows_beyond_the_window_of_the_halo_who
     EXPECT_TRUE(showsBackground({538, 300}));
 }
 
+TEST_F(CursorHalo, over_the_overlay_that_catches_the_pointer_it_holds_still) {
+    startWithHaloAt({300, 300});
+    toggleAnnotation();
+    ASSERT_TRUE(eventually([this] { return takesPointer(); }));
+    input.moveTo({500, 400});
+    input.click({600, 200}, 3);
+    EXPECT_TRUE(keepsRing({300, 300}));
+    toggleAnnotation();
+    ASSERT_TRUE(eventually([this] { return !takesPointer(); }));
+    EXPECT_TRUE(haloComesTo({500, 400}));
+}
+
 TEST_F(CursorHalo, a_middle_click_in_the_overlay_plays_nothing) {
     startAnnotating();
     toggleHalo();
