@@ -139,7 +139,7 @@ void QtEventMonitors::timerEvent(QTimerEvent* event) {
 void QtEventMonitors::reportToGlobal(const RawPointerEvent& raw) {
     const PointerState pointer = m_rawEvents->pointer();
     const bool isDrag = raw.kind == RawPointerEvent::Kind::motion && pointer.isButtonHeld;
-    if (isDrag || m_surroundings.holdsPointer() || m_ownIds.contains(pointer.window)) {
+    if (isDrag || m_surroundings.holdsPointer() || m_rawEvents->wasOver(m_ownIds)) {
         return;
     }
     m_reportedPlace = m_surroundings.toGlobal(QPoint(pointer.x, pointer.y));

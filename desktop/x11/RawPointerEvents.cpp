@@ -4,6 +4,7 @@
 
 #include <xcb/xinput.h>
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -57,8 +58,8 @@ ClientIds::ClientIds(xcb_connection_t* connection)
     , m_mask(xcb_get_setup(connection)->resource_id_mask) {}
 
 std::unique_ptr<RawPointerEvents> RawPointerEvents::listen(const std::string& display) {
-    Connection connection(xcb_connect(display.c_str(), nullptr));
-    if (xcb_connection_has_error(connection.get()) != 0) {
+    XcbConnection connection = connectTo(display);
+    if (!connection) {
         return nullptr;
     }
     const auto extension = inputExtension(connection.get());
@@ -69,7 +70,7 @@ std::unique_ptr<RawPointerEvents> RawPointerEvents::listen(const std::string& di
         new RawPointerEvents(std::move(connection), *extension));
 }
 
-RawPointerEvents::RawPointerEvents(Connection connection, std::uint8_t extension)
+RawPointerEvents::RawPointerEvents(XcbConnection connection, std::uint8_t extension)
     : m_connection(std::move(connection))
     , m_extension(extension) {}
 
@@ -148,6 +149,11 @@ PointerState RawPointerEvents::pointer() {
     discard(asked, wayDown.size());
     m_wayDown = std::move(wayDown);
     return state;
+}
+
+bool RawPointerEvents::wasOver(const ClientIds& client) const {
+    return std::ranges::any_of(m_wayDown,
+                               [&](xcb_window_t window) { return client.contains(window); });
 }
 
 void RawPointerEvents::discard(std::vector<xcb_query_pointer_cookie_t>& asked,

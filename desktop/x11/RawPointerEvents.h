@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/x11/XcbHeaders.h"
+#include "desktop/x11/XcbConnection.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -38,9 +38,9 @@ struct PointerState {
     std::int16_t x = 0;
     std::int16_t y = 0;
     bool isButtonHeld = false;
-    /// The innermost window that would get a press here, or none but the root window. It may lie in
-    /// a frame of a window manager or in another program's panel; a window that lets the pointer
-    /// through is never the one.
+    /// The innermost window under the pointer, or none but the root window. It may lie in a frame
+    /// of a window manager or in another program's panel; a window that lets the pointer through is
+    /// never the one.
     xcb_window_t window = 0;
 };
 
@@ -69,21 +69,19 @@ public:
 
     /// Asks the server.
     PointerState pointer();
+    /// Whether the pointer was last found over a window of that client, or over one that lies in
+    /// such a window.
+    bool wasOver(const ClientIds& client) const;
 
 private:
-    struct Disconnect {
-        void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
-    };
-    using Connection = std::unique_ptr<xcb_connection_t, Disconnect>;
-
-    RawPointerEvents(Connection connection, std::uint8_t extension);
+    RawPointerEvents(XcbConnection connection, std::uint8_t extension);
 
     void note(const xcb_generic_event_t& event, std::vector<RawPointerEvent>& events) const;
     /// Gives up the answers to all requests from one on.
     void discard(std::vector<xcb_query_pointer_cookie_t>& asked, std::size_t from) const;
     std::uint8_t mappedButton(std::uint32_t physicalButton) const;
 
-    Connection m_connection;
+    XcbConnection m_connection;
     /// The number by which events name the extension.
     std::uint8_t m_extension;
     /// From the root window to the one in which the pointer was last.
