@@ -35,6 +35,10 @@ public:
         typeText();
         fade();
         useTheWhiteboard();
+        showThePalette();
+        showTheHalo();
+        showTheSpotlight();
+        showTheLens();
     }
 
 private:
@@ -129,6 +133,66 @@ private:
         m_program->terminate();
     }
 
+    void showThePalette() {
+        restartWith(DrawingTool::pen, Color::red, 6);
+        toggleAnnotation();
+        const auto open = [this](int control, int button, const std::string& name) {
+            m_input.click({kPalette.x + control, kPalette.y}, button);
+            settle(400);
+            picture(name);
+            m_input.tap("Escape");
+            settle();
+        };
+        constexpr int tool = -192;
+        constexpr int color = -125;
+        constexpr int width = -58;
+        open(tool, 1, "the-palettes-tools");
+        open(color, 1, "the-palettes-colours");
+        open(color, 3, "any-colour");
+        open(width, 1, "the-palettes-widths");
+        toggleAnnotation();
+    }
+
+    void showTheHalo() {
+        restartWith(DrawingTool::pen, Color::red, 6);
+        m_input.chord({"Super_L", "Shift_L", "h"});
+        settle();
+        glideTo({700, 420});
+        picture("the-halo");
+        toggleAnnotation();
+        m_input.click({704, 424});
+        picture("a-click");
+        toggleAnnotation();
+        m_input.chord({"Super_L", "Shift_L", "h"});
+    }
+
+    void showTheSpotlight() {
+        m_input.chord({"Super_L", "Shift_L", "l"});
+        settle();
+        glideTo({1245, 590});
+        picture("the-spotlight");
+        m_input.chord({"Super_L", "Shift_L", "l"});
+        settle();
+    }
+
+    void showTheLens() {
+        m_input.chord({"Super_L", "Shift_L", "x"});
+        settle(600);
+        glideTo({1180, 470});
+        settle(400);
+        picture("the-lens");
+        m_input.chord({"Super_L", "Shift_L", "x"});
+        settle();
+    }
+
+    void glideTo(Pixel place) {
+        for (int step = 20; step >= 0; --step) {
+            m_input.moveTo({place.x - 5 * step, place.y - 3 * step});
+            settle(8);
+        }
+        settle();
+    }
+
     /// One motion from place to place, as from a hand that is quick.
     void drawSmoothly(const std::vector<Pixel>& places) { m_input.drag(places, 100); }
 
@@ -165,6 +229,7 @@ private:
         withSettings([&](AppSettings& settings) {
             settings.isAnnotationEnabled = false;
             settings.isWhiteboardMode = false;
+            settings.toolbarPosition = ToolbarPosition{kPalette.x, kPalette.y};
             settings.selectedTool = tool;
             settings.selectedColor = color;
             settings.lineWidth = lineWidth;
@@ -197,6 +262,9 @@ private:
         m_screen.save(file);
         std::printf("%s\n", file.c_str());
     }
+
+    /// The palette's centre, beside what is drawn.
+    static constexpr Pixel kPalette{960, 110};
 
     std::string m_folder;
     int m_number = 0;
