@@ -14,6 +14,7 @@ protected:
         start();
         input.moveTo(place);
         toggleSpotlight();
+        EXPECT_TRUE(isDimmed({10, 590}));
     }
     void toggleSpotlight() { input.chord({"Super_L", "Shift_L", "l"}); }
 
@@ -69,7 +70,6 @@ TEST_F(Spotlight, at_a_corner_of_the_screen_a_quarter_of_the_circle_is_clear) {
 
 TEST_F(Spotlight, clicks_reach_the_window_below_in_the_circle_and_in_the_dark) {
     startAt({450, 300});
-    ASSERT_TRUE(isDimmed({10, 590}));
     input.click({450, 300});
     EXPECT_TRUE(eventually([this] { return below.pressCount() == 1; }));
     // The circle has yet to come here when the button goes down.
@@ -81,13 +81,11 @@ TEST_F(Spotlight, it_does_not_take_the_keyboard) {
     below.activate();
     ASSERT_TRUE(eventually([this] { return below.hasKeyboard(); }));
     startAt({450, 300});
-    ASSERT_TRUE(isDimmed({10, 590}));
     EXPECT_TRUE(below.hasKeyboard());
 }
 
 TEST_F(Spotlight, while_a_button_is_held_the_circle_stays) {
     startAt({450, 300});
-    ASSERT_TRUE(isDimmed({10, 590}));
     ASSERT_TRUE(isClear({450, 300}));
     input.press();
     // The window manager looks at the press first, and holds the pointer up meanwhile.
@@ -109,7 +107,6 @@ TEST_F(Spotlight, while_a_button_is_held_the_circle_stays) {
 
 TEST_F(Spotlight, switched_off_nothing_is_left_and_switched_on_again_it_stands_at_the_pointer) {
     startAt({450, 300});
-    ASSERT_TRUE(isDimmed({10, 590}));
     toggleSpotlight();
     EXPECT_TRUE(isClear({10, 590}));
     input.moveTo({200, 200});
@@ -122,7 +119,6 @@ TEST_F(Spotlight, switched_off_nothing_is_left_and_switched_on_again_it_stands_a
 TEST_F(Spotlight, what_is_drawn_stays_to_be_seen_in_the_circle) {
     prepareTool(DrawingTool::pen);
     startAt({450, 300});
-    ASSERT_TRUE(isDimmed({10, 590}));
     toggleAnnotation();
     ASSERT_TRUE(eventually([this] { return takesPointer(); }));
     input.drag({{430, 300}, {470, 300}});
