@@ -168,6 +168,9 @@ QWidget* QtTitledWindow::makeHeader(const QWidget& content) {
     toolBar->setIconSize(kToolIcon);
     toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     toolBar->addActions(content.actions());
+    for (QAction* action : content.actions()) {
+        toolBar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
+    }
     line->addWidget(toolBar, 0, Qt::AlignVCenter);
     return header;
 }

@@ -2,9 +2,9 @@
 
 #include "desktop/qt/QtImages.h"
 #include "desktop/qt/settings/Look.h"
+#include "desktop/qt/settings/RoleLabel.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPainter>
 #include <QVBoxLayout>
 
@@ -55,13 +55,10 @@ protected:
     }
 };
 
-QLabel* makeText(const std::string& string, const QFont& font, SystemColor role) {
-    auto* label = new QLabel(QString::fromStdString(string));
-    label->setTextFormat(Qt::PlainText);
+QWidget* makeText(const std::string& string, const QFont& font, SystemColor role) {
+    auto* label = new RoleLabel(role);
+    label->setText(QString::fromStdString(string));
     label->setFont(font);
-    QPalette palette;
-    palette.setColor(QPalette::WindowText, look::color(role, palette));
-    label->setPalette(palette);
     return label;
 }
 

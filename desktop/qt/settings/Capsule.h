@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QLabel>
+#include "desktop/qt/settings/RoleLabel.h"
 
 namespace quillon::desktop {
 
 /// A text on a capsule, or the text alone.
-class Capsule : public QLabel {
+class Capsule : public RoleLabel {
 public:
-    using QLabel::QLabel;
+    using RoleLabel::RoleLabel;
 
     void setFilled(bool filled);
 

@@ -4,6 +4,7 @@
 #include "desktop/qt/settings/GroupBox.h"
 #include "desktop/qt/settings/Look.h"
 
+#include <QGridLayout>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -18,6 +19,14 @@ namespace {
 constexpr int kSectionSpacing = 14;
 constexpr int kTitleSpacing = 6;
 constexpr int kTitleIndent = 2;
+constexpr int kAlertTextWidth = 400;
+
+/// Room for the message in a few long lines, and for the title in the window's own.
+void widen(QMessageBox& alert) {
+    if (auto* grid = qobject_cast<QGridLayout*>(alert.layout())) {
+        grid->setColumnMinimumWidth(grid->columnCount() - 1, kAlertTextWidth);
+    }
+}
 
 } // namespace
 
@@ -92,9 +101,10 @@ void FormWidget::refreshAlert() {
     m_alert->setAttribute(Qt::WA_DeleteOnClose);
     m_alert->setIcon(QMessageBox::Warning);
     m_alert->setWindowTitle(QString::fromStdString(alert->title));
-    m_alert->setText(QString::fromStdString(alert->title));
+    m_alert->setText("<b>" + QString::fromStdString(alert->title).toHtmlEscaped() + "</b>");
     m_alert->setInformativeText(QString::fromStdString(alert->message));
     m_alert->addButton(QString::fromStdString(alert->button), QMessageBox::AcceptRole);
+    widen(*m_alert);
     connect(m_alert, &QMessageBox::finished, this, [dismiss = alert->dismiss] { dismiss(); });
     m_alert->open();
 }

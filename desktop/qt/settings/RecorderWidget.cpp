@@ -22,7 +22,7 @@ constexpr std::chrono::milliseconds kGrabAgain{30};
 } // namespace
 
 RecorderWidget::RecorderWidget(const ShortcutRecorderView& view, KeyReader readKey, QWidget* parent)
-    : QWidget(parent)
+    : QAbstractButton(parent)
     , m_control(view.makeControl())
     , m_readKey(std::move(readKey)) {
     setFocusPolicy(Qt::StrongFocus);
@@ -30,6 +30,7 @@ RecorderWidget::RecorderWidget(const ShortcutRecorderView& view, KeyReader readK
         ShortcutRecorderControl::accessibilityLabel.data(),
         static_cast<qsizetype>(ShortcutRecorderControl::accessibilityLabel.size())));
     m_control->makeFirstResponder = [this] { setFocus(Qt::MouseFocusReason); };
+    connect(this, &QAbstractButton::clicked, this, [this] { m_control->mouseDown(); });
     m_control->setNeedsDisplay = [this] { update(); };
 }
 
@@ -55,11 +56,11 @@ bool RecorderWidget::event(QEvent* event) {
     default:
         break;
     }
-    return QWidget::event(event);
+    return QAbstractButton::event(event);
 }
 
 bool RecorderWidget::focusNextPrevChild(bool next) {
-    return !m_control->isRecording() && QWidget::focusNextPrevChild(next);
+    return !m_control->isRecording() && QAbstractButton::focusNextPrevChild(next);
 }
 
 void RecorderWidget::paintEvent(QPaintEvent* /*event*/) {
@@ -88,6 +89,11 @@ void RecorderWidget::mousePressEvent(QMouseEvent* event) {
     }
 }
 
+void RecorderWidget::mouseReleaseEvent(QMouseEvent* event) {
+    // The press was the click.
+    event->accept();
+}
+
 void RecorderWidget::keyPressEvent(QKeyEvent* event) {
     // Whatever the control makes of it, the key goes no further.
     event->accept();
@@ -96,18 +102,22 @@ void RecorderWidget::keyPressEvent(QKeyEvent* event) {
     }
 }
 
+void RecorderWidget::keyReleaseEvent(QKeyEvent* event) {
+    event->accept();
+}
+
 void RecorderWidget::focusInEvent(QFocusEvent* event) {
-    QWidget::focusInEvent(event);
+    QAbstractButton::focusInEvent(event);
     updateGrab();
 }
 
 void RecorderWidget::focusOutEvent(QFocusEvent* event) {
-    QWidget::focusOutEvent(event);
+    QAbstractButton::focusOutEvent(event);
     updateGrab();
 }
 
 void RecorderWidget::hideEvent(QHideEvent* event) {
-    QWidget::hideEvent(event);
+    QAbstractButton::hideEvent(event);
     setGrabbed(false);
 }
 

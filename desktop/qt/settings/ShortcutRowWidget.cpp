@@ -1,43 +1,31 @@
 #include "desktop/qt/settings/ShortcutRowWidget.h"
 
+#include "desktop/qt/settings/BorderlessButton.h"
 #include "desktop/qt/settings/Capsule.h"
 #include "desktop/qt/settings/Look.h"
 #include "desktop/qt/settings/RecorderWidget.h"
 
 #include <QHBoxLayout>
-#include <QPushButton>
 
 #include <utility>
 
 namespace quillon::desktop {
 
-namespace {
-
-void setTextColor(QWidget& widget, SystemColor role) {
-    QPalette palette;
-    palette.setColor(QPalette::WindowText, look::color(role, palette));
-    widget.setPalette(palette);
-}
-
-} // namespace
-
 ShortcutRowWidget::ShortcutRowWidget(ShortcutRow row, const KeyReader& readKey, QWidget* parent)
     : QWidget(parent)
     , m_row(std::move(row))
-    , m_binding(new Capsule)
+    , m_binding(new Capsule(SystemColor::label))
     , m_recorder(new RecorderWidget(m_row.state().recorder, readKey))
-    , m_clear(new QPushButton(QString::fromUtf8(ShortcutRow::clearTitle))) {
+    , m_clear(new BorderlessButton(QString::fromUtf8(ShortcutRow::clearTitle))) {
     const auto label = QString::fromStdString(m_row.label);
     m_recorder->setFixedSize(qRound(ShortcutRow::recorderSize.width),
                              qRound(ShortcutRow::recorderSize.height));
     m_recorder->setAccessibleDescription(label);
-    m_clear->setFlat(true);
-    m_clear->setFont(look::body());
     m_clear->setAccessibleDescription(label);
     QSizePolicy keepsItsRoom = m_clear->sizePolicy();
     keepsItsRoom.setRetainSizeWhenHidden(true);
     m_clear->setSizePolicy(keepsItsRoom);
-    connect(m_clear, &QPushButton::clicked, this, [this] { m_row.clear(); });
+    connect(m_clear, &BorderlessButton::clicked, this, [this] { m_row.clear(); });
 
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -62,7 +50,7 @@ void ShortcutRowWidget::showBinding(const ShortcutRowState& state) {
     m_binding->setFont(state.binding ? look::roundedBoldCaption() : look::body());
     m_binding->setText(state.binding ? QString::fromStdString(*state.binding)
                                      : QString::fromUtf8(ShortcutRow::notSetText));
-    setTextColor(*m_binding, state.binding ? SystemColor::label : SystemColor::secondaryLabel);
+    m_binding->setRole(state.binding ? SystemColor::label : SystemColor::secondaryLabel);
 }
 
 } // namespace quillon::desktop

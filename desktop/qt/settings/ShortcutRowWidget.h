@@ -5,10 +5,9 @@
 
 #include <QWidget>
 
-class QPushButton;
-
 namespace quillon::desktop {
 
+class BorderlessButton;
 class Capsule;
 class RecorderWidget;
 
@@ -26,7 +25,7 @@ private:
     ShortcutRow m_row;
     Capsule* m_binding;
     RecorderWidget* m_recorder;
-    QPushButton* m_clear;
+    BorderlessButton* m_clear;
 };
 
 } // namespace quillon::desktop

@@ -106,6 +106,26 @@ TEST_F(SettingsOnScreen, a_slider_dragged_to_its_end_writes_the_maximum) {
     EXPECT_EQ(stored<double>([](AppSettings& settings) { return settings.lineWidth.get(); }), 30);
 }
 
+TEST_F(SettingsOnScreen, the_colour_panel_changes_the_colour_as_it_is_worked) {
+    startAndOpen();
+    showTab(annotation);
+    const Pixel swatch = row(0, 1, 548);
+    input.click(swatch);
+    ASSERT_TRUE(eventually([this] { return titled("Colors").size() == 1; }));
+    const xcb_window_t panel = titled("Colors").front();
+    ASSERT_TRUE(eventually([&] { return desktop.connection().focusedWindow() == panel; }));
+    // The panel has no button to confirm: the text of a colour counts once it is complete.
+    input.chord({"Alt_L", "h"});
+    input.chord({"Control_L", "a"});
+    input.chord({"Shift_L", "3"});
+    input.type("ff0000");
+    desktop.connection().askWindowManager("_NET_CLOSE_WINDOW", panel, {0, 2});
+    EXPECT_TRUE(screen.waitForColor(swatch, kInk));
+    stop();
+    EXPECT_EQ(stored<Color>([](AppSettings& settings) { return settings.selectedColor.get(); }),
+              Color(1, 0, 0));
+}
+
 TEST_F(SettingsOnScreen, the_whiteboard_comes_up_below_the_window_which_goes_on_working) {
     startAndOpen();
     showTab(annotation);
