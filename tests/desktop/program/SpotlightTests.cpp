@@ -6,7 +6,16 @@ namespace {
 /// A spotlight of 60 points that dims by 70 percent.
 class Spotlight : public ProgramTest {
 protected:
+    Spotlight()
+        : Spotlight({.width = 900, .height = 600}) {}
+    explicit Spotlight(const VirtualDesktop::Options& options)
+        : ProgramTest(options) {}
+
     void startAt(Pixel place) {
+        switchOnAt(place);
+        EXPECT_TRUE(isDimmed({10, 590}));
+    }
+    void switchOnAt(Pixel place) {
         prepare([](AppSettings& settings) {
             settings.spotlightRadius = 60;
             settings.spotlightIntensity = 0.7;
@@ -14,7 +23,6 @@ protected:
         start();
         input.moveTo(place);
         toggleSpotlight();
-        EXPECT_TRUE(isDimmed({10, 590}));
     }
     void toggleSpotlight() { input.chord({"Super_L", "Shift_L", "l"}); }
 
@@ -123,6 +131,32 @@ TEST_F(Spotlight, what_is_drawn_stays_to_be_seen_in_the_circle) {
     ASSERT_TRUE(eventually([this] { return takesPointer(); }));
     input.drag({{430, 300}, {470, 300}});
     EXPECT_TRUE(showsInk({450, 300}));
+}
+
+/// Where no window can be translucent, the dark is complete.
+struct SpotlightWithoutCompositor : Spotlight {
+    SpotlightWithoutCompositor()
+        : Spotlight({.width = 900, .height = 600, .hasCompositor = false}) {}
+
+    bool isBlack(Pixel place) {
+        return screen.waitForPixel(place, [](Rgb seen) { return seen == Rgb{0, 0, 0}; });
+    }
+};
+
+TEST_F(SpotlightWithoutCompositor, the_circle_is_clear_and_follows_the_pointer) {
+    switchOnAt({450, 300});
+    EXPECT_TRUE(isBlack({10, 590}));
+    EXPECT_TRUE(isBlack({450 + 63, 300}));
+    EXPECT_TRUE(isClear({450 + 57, 300}));
+    for (int x = 450; x >= 200; x -= 10) {
+        input.moveTo({x, 300});
+    }
+    EXPECT_TRUE(isClear({200, 300}));
+    for (int x = 270; x <= 520; x += 10) {
+        EXPECT_TRUE(isBlack({x, 300})) << x;
+    }
+    toggleSpotlight();
+    EXPECT_TRUE(isClear({10, 590}));
 }
 
 } // namespace

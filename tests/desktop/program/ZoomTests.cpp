@@ -1,6 +1,7 @@
 #include "desktop/program/ProgramTest.h"
 
 #include "desktop/support/Canvas.h"
+#include "desktop/support/ScreenSize.h"
 
 #include <array>
 #include <cmath>
@@ -65,6 +66,10 @@ protected:
             shows = shows && isThere;
         }
         return shows;
+    }
+
+    bool prints(std::string_view text) {
+        return program->process().standardOutput().find(text) != std::string::npos;
     }
 
     int sharedSegments() {
@@ -193,6 +198,32 @@ TEST_F(Zoom, the_spotlight_is_seen_in_the_lens) {
     EXPECT_TRUE(screen.waitForColor({lens.x + 20, lens.y + 100}, {0, 0, 0}));
 }
 
+TEST_F(Zoom, a_screen_of_another_size_keeps_the_lens_going) {
+    startWith(MagnificationFactor::x4);
+    canvas.fillWithPattern();
+    ASSERT_TRUE(showsMagnified({300, 300}, 4));
+    changeScreenSize(desktop.connection(), 800, 600);
+    input.moveTo({310, 310});
+    EXPECT_TRUE(showsMagnified({310, 310}, 4));
+}
+
+TEST_F(Zoom, a_display_that_goes_ends_the_stream_and_the_lens_comes_back_when_switched_on_again) {
+    startWith(MagnificationFactor::x4);
+    canvas.fillWithPattern();
+    ASSERT_TRUE(showsMagnified({300, 300}, 4));
+    switchScreenOff(desktop.connection());
+    EXPECT_TRUE(eventually([this] {
+        return prints("SCStream stopped with error: ") &&
+               prints("Attempting to restart screen capture...\n") &&
+               prints("Available displays: 0\n");
+    })) << program->process().standardOutput();
+    changeScreenSize(desktop.connection(), 900, 600);
+    toggleZoom();
+    toggleZoom();
+    input.moveTo({310, 310});
+    EXPECT_TRUE(showsMagnified({310, 310}, 4));
+}
+
 /// Where the hardware shows the pointer, its motion changes nothing on the screen.
 struct ZoomBelowHardwareCursor : Zoom {
     ZoomBelowHardwareCursor()
@@ -215,6 +246,19 @@ TEST_F(ZoomBelowHardwareCursor,
         ASSERT_TRUE(
             stays([&] { return isThere(screen.pixel(place)); }, std::chrono::milliseconds(200)));
     }
+}
+
+struct ZoomWithoutCompositor : Zoom {
+    ZoomWithoutCompositor()
+        : Zoom({.width = 900, .height = 600, .hasCompositor = false}) {}
+};
+
+TEST_F(ZoomWithoutCompositor, the_lens_shows_the_same_picture) {
+    canvas.fillWithPattern();
+    startWith(MagnificationFactor::x4);
+    ASSERT_TRUE(showsMagnified({300, 300}, 4));
+    input.moveTo({310, 290});
+    EXPECT_TRUE(showsMagnified({310, 290}, 4));
 }
 
 } // namespace
