@@ -22,7 +22,8 @@ namespace {
 
 const QEvent::Type kUpdateContent = static_cast<QEvent::Type>(QEvent::registerEventType());
 
-/// Beyond this the toolkit's way costs no more.
+/// Of one rectangle: beyond this the toolkit's way costs no more. It puts the whole bounds of
+/// several.
 constexpr int kMostDirectPixels = 256 * 128;
 
 /// The smallest number of points that is a whole number of device pixels, so that a part painted by
@@ -139,7 +140,7 @@ void ContentWidget::putOnScreen(const QRegion& region) {
         repaint(region);
         return;
     }
-    if (region.rectCount() == 1 && putOnScreenDirectly(*store, region.boundingRect())) {
+    if (putOnScreenDirectly(*store, region)) {
         return;
     }
     store->beginPaint(region);
@@ -150,27 +151,40 @@ void ContentWidget::putOnScreen(const QRegion& region) {
     store->flush(region);
 }
 
-bool ContentWidget::putOnScreenDirectly(QBackingStore& store, const QRect& rect) {
+bool ContentWidget::putOnScreenDirectly(QBackingStore& store, const QRegion& region) {
     QPaintDevice* device = store.paintDevice();
     if (!isComposited() || device->devType() != QInternal::Image) {
         return false;
     }
     auto& picture = *static_cast<QImage*>(device);
-    const QRect pixels = devicePixels(fromQRectF(rect), devicePixelRatio());
+    const auto inPixels = [this](const QRect& rect) {
+        return devicePixels(fromQRectF(rect), devicePixelRatio());
+    };
+    const auto isSmall = [&](const QRect& rect) {
+        const QRect pixels = inPixels(rect);
+        return picture.rect().contains(pixels) &&
+               pixels.height() * pixels.width() <= kMostDirectPixels;
+    };
     if (picture.format() != QImage::Format_ARGB32_Premultiplied ||
-        !picture.rect().contains(pixels) || pixels.height() * pixels.width() > kMostDirectPixels) {
+        !std::all_of(region.begin(), region.end(), isSmall)) {
         return false;
     }
-    QPainter painter(&picture);
-    painter.setClipRect(rect);
-    painter.setCompositionMode(QPainter::CompositionMode_Clear);
-    painter.fillRect(rect, Qt::transparent);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    paintContent(painter, rect);
-    painter.end();
-    return m_upload.put(static_cast<xcb_window_t>(internalWinId()),
-                        {picture.constBits(), static_cast<std::size_t>(picture.bytesPerLine())},
-                        toXRectangle(pixels));
+    bool isPut = true;
+    for (const QRect& rect : region) {
+        QPainter painter(&picture);
+        painter.setClipRect(rect);
+        painter.setCompositionMode(QPainter::CompositionMode_Clear);
+        painter.fillRect(rect, Qt::transparent);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+        paintContent(painter, rect);
+        painter.end();
+        isPut = isPut && m_upload.put(static_cast<xcb_window_t>(internalWinId()),
+                                      {picture.constBits(),
+                                       static_cast<std::size_t>(picture.bytesPerLine())},
+                                      toXRectangle(inPixels(rect)));
+    }
+    m_upload.flush();
+    return isPut;
 }
 
 void ContentWidget::display() {

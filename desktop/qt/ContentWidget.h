@@ -86,9 +86,9 @@ private:
     QRegion regionOf(const Damage& damage) const;
     /// Paints the region and puts it on the screen at once.
     void putOnScreen(const QRegion& region);
-    /// The same for one small rectangle, with no help of the widget system; false when that cannot
+    /// The same for small rectangles, with no help of the widget system; false when that cannot
     /// be done.
-    bool putOnScreenDirectly(QBackingStore& store, const QRect& rect);
+    bool putOnScreenDirectly(QBackingStore& store, const QRegion& region);
     void paintRegion(QPainter& painter, const QRegion& region);
     void paintContent(QPainter& painter, const QRect& rect);
     void paintOutlined(QPainter& painter, const QRect& rect);

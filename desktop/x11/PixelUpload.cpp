@@ -53,8 +53,13 @@ bool PixelUpload::put(xcb_window_t window, const PixelSource& source,
     xcb_put_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, window, m_context, place.width,
                   place.height, place.x, place.y, 0, kDepth,
                   static_cast<std::uint32_t>(m_packed.size()), m_packed.data());
-    xcb_flush(m_connection);
     return true;
+}
+
+void PixelUpload::flush() {
+    if (m_connection) {
+        xcb_flush(m_connection);
+    }
 }
 
 } // namespace quillon::desktop

@@ -26,8 +26,9 @@ public:
 
     /// Puts the part of `source` that `place` cuts out into the same place of the window. False,
     /// with nothing done, when the part is too large for one request or the server has another idea
-    /// of pixels.
+    /// of pixels. It is under way once it is flushed.
     bool put(xcb_window_t window, const PixelSource& source, const xcb_rectangle_t& place);
+    void flush();
 
 private:
     bool canPut(const xcb_rectangle_t& place) const;
