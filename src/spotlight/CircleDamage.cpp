@@ -14,8 +14,8 @@ constexpr CGFloat kMargin = 1;
 
 /// A part of a line from left to right; empty when it ends before it begins.
 struct Span {
-    CGFloat left;
-    CGFloat right;
+    CGFloat left = 0;
+    CGFloat right = 0;
 };
 
 CGFloat halfChord(const Circle& circle, CGFloat y) {
@@ -40,35 +40,57 @@ bool isNear(const Circle& a, const Circle& b) {
            std::min(a.radius, b.radius);
 }
 
+/// The parts of a band that lie in `outer` and not in `inner`.
+void addBand(Damage& damage, const Span& outer, const Span& inner, CGFloat top, CGFloat height) {
+    if (inner.right <= inner.left) {
+        damage.add({outer.left, top, outer.right - outer.left, height});
+    } else {
+        damage.add({outer.left, top, inner.left - outer.left, height});
+        damage.add({inner.right, top, outer.right - inner.right, height});
+    }
+}
+
+/// Cuts `area` into bands and calls `body` with the upper edge and the height of each.
+template <typename Body>
+void forEachBand(const CGRect& area, Body&& body) {
+    const CGFloat height = area.height / kBandCount;
+    for (int band = 0; band < kBandCount; ++band) {
+        body(area.minY() + band * height, height);
+    }
+}
+
+void addWhole(Damage& damage, const Circle& circle) {
+    if (circle.radius <= 0) {
+        return;
+    }
+    forEachBand(circle.bounds().outset(kMargin), [&](CGFloat top, CGFloat height) {
+        const Span outer = widest(circle, top, top + height);
+        addBand(damage, {outer.left - kMargin, outer.right + kMargin}, {}, top, height);
+    });
+}
+
 } // namespace
 
 Damage differenceOfCircles(const Circle& a, const Circle& b) {
     Damage damage;
     if (!isNear(a, b)) {
-        damage.add(a.bounds());
-        damage.add(b.bounds());
+        addWhole(damage, a);
+        addWhole(damage, b);
         return damage;
     }
-    const CGRect whole = a.bounds().unite(b.bounds()).outset(kMargin);
-    const CGFloat height = whole.height / kBandCount;
-    for (int band = 0; band < kBandCount; ++band) {
-        const CGFloat top = whole.minY() + band * height;
+    forEachBand(a.bounds().unite(b.bounds()).outset(kMargin), [&](CGFloat top, CGFloat height) {
         const CGFloat bottom = top + height;
         const Span outerA = widest(a, top, bottom);
         const Span outerB = widest(b, top, bottom);
-        const Span outer{std::min(outerA.left, outerB.left) - kMargin,
-                         std::max(outerA.right, outerB.right) + kMargin};
         const Span innerA = narrowest(a, top, bottom);
         const Span innerB = narrowest(b, top, bottom);
-        const Span inner{std::max(innerA.left, innerB.left) + kMargin,
-                         std::min(innerA.right, innerB.right) - kMargin};
-        if (inner.right <= inner.left) {
-            damage.add({outer.left, top, outer.right - outer.left, height});
-        } else {
-            damage.add({outer.left, top, inner.left - outer.left, height});
-            damage.add({inner.right, top, outer.right - inner.right, height});
-        }
-    }
+        addBand(damage,
+                {std::min(outerA.left, outerB.left) - kMargin,
+                 std::max(outerA.right, outerB.right) + kMargin},
+                {std::max(innerA.left, innerB.left) + kMargin,
+                 std::min(innerA.right, innerB.right) - kMargin},
+                top, height);
+    });
     return damage;
 }
 

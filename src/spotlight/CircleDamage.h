@@ -5,9 +5,9 @@
 
 namespace quillon {
 
-/// Where the pictures of two circles differ, their edges included: a ring of narrow rectangles when
-/// they lie nearly over each other, else both as a whole. It never covers more than the rectangles
-/// round the two, but for one point on each side.
+/// Where the pictures of two circles differ, their edges included, in bands: narrow ones round the
+/// edges when the two lie nearly over each other, else the whole of both. It never covers more than
+/// the squares round the two, but for one point on each side.
 Damage differenceOfCircles(const Circle& a, const Circle& b);
 
 } // namespace quillon

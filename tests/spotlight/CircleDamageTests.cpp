@@ -57,7 +57,7 @@ TEST(CircleDamage, a_small_step_costs_a_fraction_of_the_two_squares) {
     const Circle circle{{500, 500}, 150};
     const CGFloat square = 300 * 300;
     EXPECT_LT(areaOf(differenceOfCircles(circle, {{505, 503}, 150})), square / 3);
-    EXPECT_DOUBLE_EQ(areaOf(differenceOfCircles(circle, {{900, 503}, 150})), 2 * square);
+    EXPECT_LT(areaOf(differenceOfCircles(circle, {{900, 503}, 150})), 2 * square);
 }
 
 TEST(CircleDamage, it_stays_within_the_squares_but_for_a_point) {
