@@ -9,7 +9,7 @@ namespace quillon {
 /// Work handed in with `async` runs in a later turn of the loop, in the order in which it was
 /// handed in; work of `asyncAfter` runs once its delay is over, earlier deadlines first. Nothing
 /// runs inside the call itself. No single piece can be taken back. Work that is pending when the
-/// queue ends is dropped.
+/// queue ends is dropped. `async` may be called on any thread, everything else on the main one.
 class MainQueue {
 public:
     using Work = std::function<void()>;
