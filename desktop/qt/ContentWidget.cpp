@@ -14,6 +14,7 @@
 #include <QWindow>
 #include <QtMath>
 
+#include <chrono>
 #include <utility>
 
 namespace quillon::desktop {
@@ -21,6 +22,9 @@ namespace quillon::desktop {
 namespace {
 
 const QEvent::Type kUpdateContent = static_cast<QEvent::Type>(QEvent::registerEventType());
+
+/// A motion that comes this long after the last update is no part of a burst.
+constexpr std::chrono::milliseconds kQuiet{2};
 
 /// Of one rectangle: beyond this the toolkit's way costs no more. It puts the whole bounds of
 /// several.
@@ -46,9 +50,11 @@ ContentWidget::ContentWidget(xcb_connection_t* connection, std::function<void()>
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_NoSystemBackground);
     setAttribute(Qt::WA_ShowWithoutActivating);
-    // With the focus here, the first tab goes to the first control.
-    setFocusPolicy(Qt::ClickFocus);
+    // With the focus here, the first tab goes to the first control. A press does not bring it back:
+    // a text field must not lose it before the view has heard of the press.
+    setFocusPolicy(Qt::TabFocus);
     setFocus();
+    m_sinceLastUpdate.start();
 }
 
 ContentWidget::~ContentWidget() {
@@ -71,7 +77,7 @@ void ContentWidget::adoptRootView() {
 
 bool ContentWidget::event(QEvent* event) {
     if (event->type() == kUpdateContent) {
-        updateNow();
+        updateIfNeeded();
         return true;
     }
     if (event->type() == QEvent::WinIdChange && windowHandle()) {
@@ -243,12 +249,9 @@ void ContentWidget::mousePressEvent(QMouseEvent* event) {
 
 void ContentWidget::mouseMoveEvent(QMouseEvent* event) {
     if (event->buttons().testFlag(Qt::LeftButton) && m_content) {
-        dragTo(event->position());
+        m_content->rootView->mouseDragged(fromQPointF(event->position()));
+        updateAtOnceIfQuiet();
     }
-}
-
-void ContentWidget::dragTo(QPointF place) {
-    m_content->rootView->mouseDragged(fromQPointF(place));
 }
 
 void ContentWidget::mouseReleaseEvent(QMouseEvent* event) {
@@ -275,13 +278,20 @@ void ContentWidget::requestUpdate() {
     }
 }
 
-void ContentWidget::updateNow() {
+void ContentWidget::updateIfNeeded() {
     if (std::exchange(m_isUpdatePending, false)) {
         updateContent();
     }
 }
 
+void ContentWidget::updateAtOnceIfQuiet() {
+    if (m_sinceLastUpdate.hasExpired(kQuiet.count())) {
+        updateIfNeeded();
+    }
+}
+
 void ContentWidget::updateContent() {
+    m_sinceLastUpdate.start();
     if (!m_content) {
         return;
     }
@@ -292,17 +302,6 @@ void ContentWidget::updateContent() {
         putOnScreen(region);
     }
     tellOutline();
-    tellFreeRegion();
-}
-
-void ContentWidget::tellFreeRegion() {
-    const QRegion region = QRegion(rect()) - childrenRegion();
-    if (region != m_freeRegion) {
-        m_freeRegion = region;
-        if (onFreeRegionChanged) {
-            onFreeRegionChanged();
-        }
-    }
 }
 
 void ContentWidget::updateTextField() {

@@ -5,6 +5,7 @@
 #include "platform/Window.h"
 
 #include <QColor>
+#include <QElapsedTimer>
 #include <QWidget>
 
 #include <functional>
@@ -39,15 +40,6 @@ public:
     /// the rest of the screen stays to be seen.
     void setComposited(bool composited);
     bool isComposited() const { return !m_inkMask; }
-    /// A motion with the primary button held, in the widget's coordinates.
-    void dragTo(QPointF place);
-    /// Spares an update that is due the way through the event queue.
-    void updateNow();
-    /// The part in which the content itself takes the pointer, and no control and no text field.
-    const QRegion& freeRegion() const { return m_freeRegion; }
-    /// Called after each change of it.
-    std::function<void()> onFreeRegionChanged;
-
     /// Called with the outline, in device pixels, when it may have changed.
     std::function<void(const QRegion&)> onOutlined;
 
@@ -76,11 +68,14 @@ protected:
 private:
     void adoptRootView();
     void requestUpdate();
+    void updateIfNeeded();
+    /// Spares a motion that stands alone the way through the event queue, while in a burst the
+    /// update still waits behind all input that has arrived.
+    void updateAtOnceIfQuiet();
     void updateContent();
     void updateTextField();
     void updateControls();
     void tellControlsPlace();
-    void tellFreeRegion();
     void showControls(const std::shared_ptr<ControlView>& view);
     void layoutContent();
     QRegion regionOf(const Damage& damage) const;
@@ -101,9 +96,9 @@ private:
     std::unique_ptr<TextFieldWidget> m_textField;
     std::unique_ptr<ControlsWidget> m_controls;
     QRect m_controlsPlace;
-    QRegion m_freeRegion;
     std::optional<InkMask> m_inkMask;
     bool m_isUpdatePending = false;
+    QElapsedTimer m_sinceLastUpdate;
     /// The size in which the widget system last painted; empty when it has yet to prepare the
     /// store.
     QSize m_paintedSize;

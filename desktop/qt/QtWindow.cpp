@@ -28,7 +28,6 @@ QtWindow::QtWindow(Window& window, const Surroundings& surroundings)
     , m_surroundings(surroundings)
     , m_keyboard(surroundings.connection)
     , m_widget(surroundings.connection, [this] { takeKeyboard(); })
-    , m_pointerInput(m_widget, surroundings.connection)
     , m_placement(m_widget, surroundings.connection)
     , m_compositorChange(surroundings.compositor.changed.sink([this] { followCompositor(); })) {
     m_widget.setWindowFlags(Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint |
@@ -37,7 +36,6 @@ QtWindow::QtWindow(Window& window, const Surroundings& surroundings)
                      [this] { stayBelowTitledWindows(); });
     m_widget.onEditingChanged = [this] { giveBackKeyboardIfUnused(); };
     m_widget.onControlsPlaced = [this](const QRect& place) { blurBehind(place); };
-    m_widget.onFreeRegionChanged = [this] { followFreeRegion(); };
     m_widget.onOutlined = [this](const QRegion& outline) { takeOutline(outline); };
     setFrame(window.frame());
     followCompositor();
@@ -62,7 +60,6 @@ void QtWindow::setIgnoresMouseEvents(bool ignores) {
     grabPointerIfNeeded();
     setInputRegion(m_surroundings.connection, nativeWindow(),
                    ignores ? InputRegion::empty : InputRegion::window);
-    followFreeRegion();
     giveBackKeyboardIfUnused();
 }
 
@@ -120,12 +117,6 @@ void QtWindow::grabPointerIfNeeded() {
 void QtWindow::confirmGrab() {
     if (m_grabsPointer) {
         m_widget.windowHandle()->setMouseGrabEnabled(true);
-    }
-}
-
-void QtWindow::followFreeRegion() {
-    if (!m_window.ignoresMouseEvents() && !m_widget.freeRegion().isEmpty()) {
-        m_pointerInput.cover(m_widget.freeRegion());
     }
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "desktop/qt/ContentWidget.h"
-#include "desktop/qt/PointerInput.h"
 #include "desktop/qt/WindowPlacement.h"
 #include "desktop/x11/CompositorWatch.h"
 #include "desktop/x11/KeyboardFocus.h"
@@ -49,7 +48,6 @@ private:
     void noteGrab(bool grabs);
     void takeOutline(const QRegion& outline);
     void blurBehind(const QRect& place);
-    void followFreeRegion();
     void takeKeyboard();
     void giveBackKeyboardIfUnused();
     xcb_window_t nativeWindow() const { return static_cast<xcb_window_t>(m_widget.winId()); }
@@ -58,7 +56,6 @@ private:
     Surroundings m_surroundings;
     KeyboardFocus m_keyboard;
     ContentWidget m_widget;
-    PointerInput m_pointerInput;
     WindowPlacement m_placement;
     bool m_grabsPointer = false;
     Cancellable m_compositorChange;
