@@ -1,7 +1,10 @@
 #include "cursor/CursorTest.h"
 
 #include <algorithm>
+#include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace quillon::test {
@@ -108,14 +111,44 @@ TEST_F(CursorHighlightManagerTest, enabled_twice_it_watches_once) {
     EXPECT_EQ(manager().haloWindow(), window);
 }
 
-TEST_F(CursorHighlightManagerTest, either_monitor_alone_keeps_tracking_from_starting_again) {
-    host.eventMonitors.offersMonitors = false;
+TEST_F(CursorHighlightManagerTest, a_global_monitor_alone_keeps_tracking_from_starting_again) {
+    host.eventMonitors.offersLocalMonitors = false;
     enable();
-    EXPECT_FALSE(manager().eventMonitor());
-    host.eventMonitors.offersMonitors = true;
+    host.eventMonitors.offersLocalMonitors = true;
     manager().startTracking();
-    ASSERT_TRUE(manager().eventMonitor());
+    EXPECT_TRUE(manager().eventMonitor());
+    EXPECT_FALSE(manager().localEventMonitor());
     EXPECT_EQ(host.eventMonitors.globalMonitors.size(), 1U);
+}
+
+TEST_F(CursorHighlightManagerTest, a_local_monitor_alone_keeps_tracking_from_starting_again) {
+    host.eventMonitors.offersGlobalMonitors = false;
+    enable();
+    host.eventMonitors.offersGlobalMonitors = true;
+    manager().startTracking();
+    EXPECT_FALSE(manager().eventMonitor());
+    EXPECT_TRUE(manager().localEventMonitor());
+    EXPECT_EQ(host.eventMonitors.localMonitors.size(), 1U);
+}
+
+TEST_F(CursorHighlightManagerTest, with_no_monitor_offered_the_next_enabling_asks_again) {
+    host.eventMonitors.offersGlobalMonitors = false;
+    host.eventMonitors.offersLocalMonitors = false;
+    enable();
+    host.eventMonitors.offersGlobalMonitors = true;
+    host.eventMonitors.offersLocalMonitors = true;
+    enable();
+    EXPECT_TRUE(manager().eventMonitor());
+    EXPECT_TRUE(manager().localEventMonitor());
+}
+
+TEST_F(CursorHighlightManagerTest, tracking_that_is_started_while_off_shows_and_plays_nothing) {
+    manager().startTracking();
+    movePointer(kPlace);
+    press(NSEventType::leftMouseDown, kPlace);
+    EXPECT_EQ(manager().currentCursorLocation(), kPlace);
+    EXPECT_FALSE(manager().haloWindow()->isVisible());
+    EXPECT_EQ(manager().activeClickAnimationCount(), 0);
 }
 
 TEST_F(CursorHighlightManagerTest, stopped_it_watches_nothing) {
@@ -273,6 +306,21 @@ TEST_F(CursorHighlightManagerTest, a_change_that_is_overtaken_by_the_switch_off_
     EXPECT_EQ(halo().color(), Color::cyan);
 }
 
+TEST_F(CursorHighlightManagerTest, a_content_of_another_kind_is_left_alone) {
+    struct PlainView : ContentView {
+        void layout(CGSize, CGFloat) override {}
+        Damage takeDamage() override { return {}; }
+        void paint(GraphicsContext&, const CGRect&) override {}
+    };
+    enable();
+    auto& content = *manager().haloWindow()->contentView();
+    content.setRootView(std::make_unique<PlainView>());
+    const ContentView* plain = content.rootView.get();
+    settings().haloColor = Color::red;
+    host.mainQueue.run();
+    EXPECT_EQ(content.rootView.get(), plain);
+}
+
 TEST_F(CursorHighlightManagerTest, another_click_animation_leaves_the_halo_as_it_is) {
     enable();
     const HaloView* before = &halo();
@@ -305,9 +353,9 @@ TEST_F(CursorHighlightManagerTest,
     EXPECT_TRUE(window.isVisible());
     EXPECT_EQ(dynamic_cast<const ClickAnimationView&>(*window.contentView()->rootView).color(),
               Color::pink);
-    host.mainQueue.advance(0.49);
+    host.mainQueue.advance(0.4999);
     EXPECT_EQ(manager().activeClickAnimationCount(), 1);
-    host.mainQueue.advance(0.02);
+    host.mainQueue.advance(0.0002);
     EXPECT_EQ(manager().activeClickAnimationCount(), 0);
     EXPECT_EQ(count("orderOut"), 1);
 }
@@ -396,6 +444,60 @@ TEST_F(CursorHighlightManagerTest, an_end_in_the_middle_of_an_animation_is_quiet
     press(NSEventType::leftMouseDown, kPlace);
     press(NSEventType::leftMouseDown, kPlace);
     EXPECT_FALSE(host.mainQueue.isIdle());
+}
+
+TEST(CursorHighlightTimers, a_timer_whose_window_has_gone_already_does_nothing) {
+    /// Every piece of work comes round a second time.
+    struct RepeatingQueue : HandTurnedQueue {
+        void asyncAfter(double seconds, Work work) override {
+            HandTurnedQueue::asyncAfter(seconds, work);
+            HandTurnedQueue::asyncAfter(seconds, std::move(work));
+        }
+    } queue;
+    FakePorts fakes;
+    auto ports = fakes.ports();
+    ports.mainQueue = queue;
+    const Host host(ports);
+    auto& manager = CursorHighlightManager::shared();
+    manager.isEnabled = true;
+    manager.handleClick(kPlace, false);
+    queue.advance(0.1);
+    manager.handleClick(kPlace, false);
+    queue.advance(0.4);
+    EXPECT_EQ(manager.activeClickAnimationCount(), 1) << "the younger one has time left";
+    queue.advance(0.1);
+    EXPECT_EQ(manager.activeClickAnimationCount(), 0);
+}
+
+TEST(CursorHighlightTimers, a_place_that_waits_is_not_taken_after_the_manager_has_gone) {
+    /// Keeps what waits, also beyond the end of a host.
+    struct KeepingQueue : HandTurnedQueue {
+        void clear() override {}
+    } queue;
+    FakePorts fakes;
+    auto ports = fakes.ports();
+    ports.mainQueue = queue;
+    auto host = std::make_optional<Host>(ports);
+    CursorHighlightManager::shared().isEnabled = true;
+    fakes.eventMonitors.sendToOthers(NSEventType::mouseMoved, kPlace);
+    host.reset();
+    host.emplace(ports);
+    fakes.windows.calls.clear();
+    queue.run();
+    EXPECT_TRUE(fakes.windows.calls.empty());
+}
+
+TEST(CursorHighlightMonitors, after_the_manager_a_monitor_is_deaf_and_passes_every_event_on) {
+    FakePorts fakes;
+    auto host = std::make_optional<Host>(fakes.ports());
+    CursorHighlightManager::shared().isEnabled = true;
+    host.reset();
+    host.emplace(fakes.ports());
+    fakes.eventMonitors.sendToOthers(NSEventType::mouseMoved, kPlace);
+    EXPECT_TRUE(fakes.mainQueue.isIdle());
+    const auto monitor = fakes.eventMonitors.localMonitors.begin()->second;
+    EXPECT_EQ(monitor.handler({NSEventType::leftMouseDown}), (NSEvent{NSEventType::leftMouseDown}));
+    EXPECT_TRUE(fakes.mainQueue.isIdle());
 }
 
 } // namespace quillon::test

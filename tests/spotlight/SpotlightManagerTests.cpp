@@ -1,6 +1,10 @@
 #include "spotlight/SpotlightTest.h"
 
 #include <algorithm>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
 
 namespace quillon::test {
 namespace {
@@ -209,7 +213,7 @@ TEST_F(SpotlightManagerTest, a_content_of_another_kind_is_left_alone) {
 }
 
 TEST_F(SpotlightManagerTest, where_nothing_can_be_watched_the_circle_stands_where_the_pointer_was) {
-    host.eventMonitors.offersMonitors = false;
+    host.eventMonitors.offersGlobalMonitors = false;
     host.eventMonitors.location = {300, 1000};
     manager().isSpotlightEnabled = true;
     host.mainQueue.run();
@@ -224,6 +228,16 @@ TEST_F(SpotlightManagerTest, a_change_of_a_published_property_is_announced) {
     manager().isSpotlightEnabled = true;
     settings().spotlightIntensity = 0.5;
     EXPECT_EQ(announcements, 2);
+}
+
+TEST(SpotlightMonitor, after_the_manager_a_monitor_is_deaf) {
+    FakePorts fakes;
+    auto host = std::make_optional<Host>(fakes.ports());
+    SpotlightManager::shared().isSpotlightEnabled = true;
+    host.reset();
+    host.emplace(fakes.ports());
+    fakes.eventMonitors.sendToOthers(NSEventType::mouseMoved, {10, 10});
+    EXPECT_TRUE(fakes.mainQueue.isIdle());
 }
 
 } // namespace

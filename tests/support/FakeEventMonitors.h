@@ -12,11 +12,11 @@ class FakeEventMonitors : public EventMonitors {
 public:
     std::optional<EventMonitorToken>
     addGlobalMonitorForEventsMatchingMask(std::uint64_t mask, GlobalHandler handler) override {
-        return add(globalMonitors, mask, std::move(handler));
+        return offersGlobalMonitors ? add(globalMonitors, mask, std::move(handler)) : std::nullopt;
     }
     std::optional<EventMonitorToken>
     addLocalMonitorForEventsMatchingMask(std::uint64_t mask, LocalHandler handler) override {
-        return add(localMonitors, mask, std::move(handler));
+        return offersLocalMonitors ? add(localMonitors, mask, std::move(handler)) : std::nullopt;
     }
     void removeMonitor(EventMonitorToken token) override {
         removals += static_cast<int>(globalMonitors.erase(token) + localMonitors.erase(token));
@@ -41,8 +41,9 @@ public:
     };
 
     CGPoint location;
-    /// False makes every addition fail.
-    bool offersMonitors = true;
+    /// False makes every addition of that kind fail.
+    bool offersGlobalMonitors = true;
+    bool offersLocalMonitors = true;
     int removals = 0;
     std::map<EventMonitorToken, Monitor<GlobalHandler>> globalMonitors;
     std::map<EventMonitorToken, Monitor<LocalHandler>> localMonitors;
@@ -51,9 +52,6 @@ private:
     template <typename Handler>
     std::optional<EventMonitorToken> add(std::map<EventMonitorToken, Monitor<Handler>>& monitors,
                                          std::uint64_t mask, Handler handler) {
-        if (!offersMonitors) {
-            return std::nullopt;
-        }
         const EventMonitorToken token{++m_lastToken};
         monitors[token] = {mask, std::move(handler)};
         return token;
