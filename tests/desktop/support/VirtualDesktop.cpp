@@ -43,6 +43,13 @@ std::string readDisplayNumber(int descriptor) {
     return number;
 }
 
+/// The servers that look for a free number count from zero and do not get as far.
+std::string ownDisplay() {
+    constexpr int first = 1000;
+    constexpr int count = 50000;
+    return std::string(":").append(std::to_string(first + getpid() % count));
+}
+
 } // namespace
 
 VirtualDesktop::VirtualDesktop(const Options& options) {
@@ -123,6 +130,9 @@ void VirtualDesktop::startServer(const Options& options) {
     std::vector<std::string> command{"Xvfb",      "-displayfd", std::to_string(ends[1]),
                                      "-screen",   "0",          geometry,
                                      "-nolisten", "tcp",        "-noreset"};
+    if (options.hasOwnNumber) {
+        command.insert(command.begin() + 1, ownDisplay());
+    }
     if (!options.hasCursor) {
         command.emplace_back("-nocursor");
     }

@@ -26,6 +26,9 @@ public:
         std::vector<std::string> withoutExtensions = {};
         bool hasCompositor = true;
         bool hasWindowManager = true;
+        /// A number that no other desktop comes to, so that nobody answers to it once this one has
+        /// gone. Else it is the first free one, and the next server may take it up.
+        bool hasOwnNumber = false;
     };
 
     VirtualDesktop()
@@ -44,7 +47,8 @@ public:
     void startTray();
     void stopTray();
     void stopCompositor();
-    /// Takes the display away from everybody.
+    /// Takes the display away from everybody. Where its name is asked for after that, it needs a
+    /// number of its own.
     void stopServer();
     /// As a task bar's switch of desktops would.
     void showWorkspace(std::uint32_t index);

@@ -445,7 +445,9 @@ TEST(ScreenCapture, a_display_that_is_not_there_fails_the_start) {
 }
 
 TEST(ScreenCapture, a_server_that_goes_ends_the_stream_with_an_error) {
-    CaptureTest test;
+    auto options = serverAlone;
+    options.hasOwnNumber = true;
+    CaptureTest test(options);
     const auto stream = test.program.start(test.receiver);
 
     test.desktop.stopServer();
