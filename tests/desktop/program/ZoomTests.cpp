@@ -120,15 +120,42 @@ TEST_F(Zoom, what_changes_on_the_screen_changes_in_the_lens) {
     }
 }
 
-TEST_F(Zoom, at_the_edge_of_the_screen_the_picture_is_smaller_whole_and_on_black) {
-    startWith(MagnificationFactor::x2, {10, 300});
-    const Pixel lens = lensAt({10, 300});
-    // Of 100 pixels 60 are on the screen; they stand in the middle.
-    EXPECT_TRUE(screen.waitForColor({lens.x + 100, lens.y + 100}, kBackground));
-    EXPECT_TRUE(screen.waitForColor({lens.x + 44, lens.y + 100}, kBackground));
-    EXPECT_TRUE(screen.waitForColor({lens.x + 156, lens.y + 100}, kBackground));
-    EXPECT_TRUE(screen.waitForColor({lens.x + 36, lens.y + 100}, {0, 0, 0}));
-    EXPECT_TRUE(screen.waitForColor({lens.x + 164, lens.y + 100}, {0, 0, 0}));
+TEST_F(Zoom, at_each_edge_of_the_screen_the_picture_is_smaller_whole_and_on_black) {
+    struct Edge {
+        const char* name;
+        Pixel pointer;
+        CGFloat offsetX;
+        /// What of the screen is in the picture.
+        Canvas::Frame shown;
+        Pixel lens;
+        /// Into the lens, from the edge of the screen towards its middle.
+        Pixel inward;
+    };
+    const Rgb color{0x20, 0xA0, 0x60};
+    const Edge edges[] = {
+        {"left", {10, 300}, 150, {0, 250, 60, 100}, {160, 200}, {1, 0}},
+        {"right", {890, 300}, -350, {840, 250, 60, 100}, {540, 200}, {1, 0}},
+        {"top", {300, 10}, 150, {250, 0, 100, 60}, {450, 0}, {0, 1}},
+        {"bottom", {300, 590}, 150, {250, 540, 100, 60}, {450, 400}, {0, 1}},
+    };
+    for (const Edge& edge : edges) {
+        SCOPED_TRACE(edge.name);
+        Canvas shown(desktop.display(), edge.shown);
+        shown.fill({0, 0, edge.shown.width, edge.shown.height}, 0x20A060);
+        startWith(MagnificationFactor::x2, edge.pointer, edge.offsetX);
+        // Of 100 pixels 60 are on the screen; they stand in the middle, twice as large.
+        const auto place = [&](int along) {
+            return Pixel{edge.lens.x + (edge.inward.x == 1 ? along : 90),
+                         edge.lens.y + (edge.inward.y == 1 ? along : 90)};
+        };
+        for (const int along : {41, 90, 158}) {
+            EXPECT_TRUE(screen.waitForColor(place(along), color)) << along;
+        }
+        for (const int along : {3, 38, 161, 196}) {
+            EXPECT_TRUE(screen.waitForColor(place(along), {0, 0, 0})) << along;
+        }
+        stop();
+    }
 }
 
 TEST_F(Zoom, the_corners_are_black_and_the_outline_is_faint) {
