@@ -135,6 +135,37 @@ TEST_F(ZoomCaptureTest, switched_off_while_the_content_is_looked_up_no_stream_is
     EXPECT_TRUE(isAtRest());
 }
 
+TEST_F(ZoomCaptureTest, a_probe_that_answers_too_late_is_noted_all_the_same) {
+    setEnabled(true);
+    setEnabled(false);
+    answerProbe();
+    EXPECT_TRUE(manager().isScreenCapturePermissionGranted());
+    setEnabled(true);
+    setEnabled(false);
+    EXPECT_EQ(printedBy([this] { answerProbe(kRefusal); }),
+              Lines{"Screen recording permission check failed: The user declined"});
+    EXPECT_FALSE(manager().isScreenCapturePermissionGranted());
+}
+
+TEST_F(ZoomCaptureTest, off_and_on_while_the_content_is_looked_up_the_older_answer_prints_nothing) {
+    setEnabled(true);
+    answerProbe();
+    setEnabled(false);
+    setEnabled(true);
+    EXPECT_EQ(printedBy([this] { answerLookup(); }), Lines{});
+    EXPECT_TRUE(capture().streams.empty());
+    EXPECT_EQ(printedBy([this] { answerProbe(); }), Lines{kSetup.at(0)});
+    EXPECT_EQ(printedBy([this] { answerLookup(); }), Lines(kSetup.begin() + 1, kSetup.end()));
+}
+
+TEST_F(ZoomCaptureTest, switched_off_right_after_the_permission_the_lookup_is_asked_for_in_vain) {
+    setEnabled(true);
+    capture().probes.complete(SCShareableContent{});
+    EXPECT_EQ(printedBy([this] { manager().isZoomEnabled = false; }), Lines{kSetup.at(0)});
+    EXPECT_EQ(printedBy([this] { answerLookup(); }), Lines{});
+    EXPECT_TRUE(isAtRest());
+}
+
 TEST_F(ZoomCaptureTest, a_lookup_that_fails_too_late_prints_its_line_and_asks_for_nothing) {
     setEnabled(true);
     answerProbe();
