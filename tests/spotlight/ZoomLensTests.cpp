@@ -167,6 +167,14 @@ TEST_F(ZoomLensTest, with_both_off_the_monitor_is_gone) {
     EXPECT_EQ(host.eventMonitors.removals, 1);
 }
 
+TEST_F(ZoomLensTest, switched_off_with_no_spotlight_the_lens_takes_the_monitor_along) {
+    run();
+    EXPECT_EQ(host.eventMonitors.globalMonitors.size(), 1U);
+    setEnabled(false);
+    EXPECT_TRUE(host.eventMonitors.globalMonitors.empty());
+    EXPECT_EQ(host.eventMonitors.removals, 1);
+}
+
 TEST_F(ZoomLensTest, a_spotlight_switched_on_beside_the_lens_is_right_at_once) {
     run();
     movePointer({500, 600});

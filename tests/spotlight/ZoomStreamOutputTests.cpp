@@ -127,6 +127,13 @@ TEST_F(ZoomStreamOutputTest, a_factor_of_one_and_a_half_cuts_between_pixels) {
     EXPECT_NEAR(pictureSize().width, 200, 1e-9);
 }
 
+TEST_F(ZoomStreamOutputTest, the_square_is_as_high_as_the_lens_is_wide) {
+    pointAt({960, 540});
+    manager().zoomWindow()->setFrame({0, 0, 200, 80}, /*display=*/true, /*animate=*/false);
+    printedForFrame();
+    EXPECT_EQ(pictureSize(), (CGSize{200, 200}));
+}
+
 TEST_F(ZoomStreamOutputTest, near_an_edge_the_picture_is_what_there_is_of_the_screen) {
     pointAt({10, 540});
     printedForFrame();
@@ -203,6 +210,18 @@ TEST(ZoomStreamOutputOnScales, before_there_is_a_lens_a_frame_prints_that_it_is_
     testing::internal::CaptureStdout();
     output.processFrame(CIImage(std::make_shared<FakeImageBuffer>(CGSize{10, 10})), manager);
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "processFrame: missing screen or window\n");
+}
+
+TEST(ZoomStreamOutputOnScales, a_lens_without_a_screen_prints_that_it_is_missing) {
+    FakeHost host;
+    host.screens.all.clear();
+    SpotlightManager& manager = SpotlightManager::shared();
+    manager.isZoomEnabled = true;
+    const ZoomStreamOutput output(manager.weak_from_this());
+    testing::internal::CaptureStdout();
+    output.processFrame(CIImage(std::make_shared<FakeImageBuffer>(CGSize{10, 10})), manager);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "processFrame: missing screen or window\n");
+    EXPECT_FALSE(manager.zoomWindow()->currentImage());
 }
 
 } // namespace quillon::test
