@@ -86,7 +86,8 @@ int main(int count, char** arguments) {
         const std::vector<std::string> options(arguments + 1, arguments + count);
         // Pauses of microseconds are kept as such.
         prctl(PR_SET_TIMERSLACK, 1);
-        const auto programs = penPrograms();
+        auto programs = penPrograms();
+        programs.push_back(penWithoutPalette());
         test::VirtualDesktop::Options screen;
         screen.width = option(options, "--width", screen.width);
         screen.height = option(options, "--height", screen.height);

@@ -92,12 +92,16 @@ private:
     test::ChildProcess m_process;
 };
 
+enum class Palette { shown, hidden };
+
+template <Palette palette>
 class QuillonMark : public PointerTaker {
 public:
     explicit QuillonMark(VirtualDesktop& desktop)
         : PointerTaker(desktop)
         , m_input(desktop.connection()) {
         test::withStoredSettings(desktop.configFolder(), [](AppSettings& settings) {
+            settings.showFloatingToolbar = palette == Palette::shown;
             settings.selectedTool = DrawingTool::pen;
             settings.selectedColor = Color(1, 0, 0);
             settings.lineWidth = 5;
@@ -169,11 +173,15 @@ bool isInstalled(const std::string& name) {
 
 std::vector<PenProgram> penPrograms() {
     std::vector<PenProgram> programs = {program<BarePen>("bare-pen"),
-                                        program<QuillonMark>("quillon-mark")};
+                                        program<QuillonMark<Palette::shown>>("quillon-mark")};
     if (isInstalled("gromit-mpx")) {
         programs.push_back(program<Gromit>("gromit-mpx"));
     }
     return programs;
+}
+
+PenProgram penWithoutPalette() {
+    return program<QuillonMark<Palette::hidden>>("quillon-mark without its palette");
 }
 
 void startTray(VirtualDesktop& desktop) {

@@ -32,6 +32,9 @@ struct PenProgram {
 /// others those that are installed.
 std::vector<PenProgram> penPrograms();
 
+/// The one of this project with its palette hidden.
+PenProgram penWithoutPalette();
+
 /// Puts a panel with a tray and nothing else on the desktop.
 void startTray(test::VirtualDesktop& desktop);
 

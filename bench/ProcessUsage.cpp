@@ -55,15 +55,25 @@ ProcessUsage ProcessUsage::of(pid_t process) {
     ProcessUsage usage;
     for (const auto& thread : std::filesystem::directory_iterator(folderOf(process) + "/task")) {
         const std::string status = contentsOf(thread.path() / "status");
-        usage.contextSwitches += sumOf("voluntary_ctxt_switches", status);
-        usage.contextSwitches += sumOf("nonvoluntary_ctxt_switches", status);
+        const long switches =
+            sumOf("voluntary_ctxt_switches", status) + sumOf("nonvoluntary_ctxt_switches", status);
+        usage.contextSwitches += switches;
+        usage.contextSwitchesByThread[thread.path().filename()] = switches;
     }
     usage.processorTicks = ticksOf(contentsOf(folderOf(process) + "/stat"));
     return usage;
 }
 
 ProcessUsage ProcessUsage::since(const ProcessUsage& earlier) const {
-    return {contextSwitches - earlier.contextSwitches, processorTicks - earlier.processorTicks};
+    ProcessUsage used;
+    for (const auto& [thread, switches] : contextSwitchesByThread) {
+        const auto before = earlier.contextSwitchesByThread.find(thread);
+        const bool isNew = before == earlier.contextSwitchesByThread.end();
+        used.contextSwitchesByThread[thread] = switches - (isNew ? 0 : before->second);
+        used.contextSwitches += used.contextSwitchesByThread[thread];
+    }
+    used.processorTicks = processorTicks - earlier.processorTicks;
+    return used;
 }
 
 ProcessMemory ProcessMemory::of(pid_t process) {

@@ -2,6 +2,9 @@
 
 #include <sys/types.h>
 
+#include <map>
+#include <string>
+
 namespace quillon::bench {
 
 /// What a process has used since it began, all its threads together.
@@ -9,6 +12,8 @@ struct ProcessUsage {
     /// Voluntary and involuntary context switches: how often one of its threads was put to sleep
     /// or aside, and so how often one woke up.
     long contextSwitches = 0;
+    /// The same by thread. One that has ended in the meantime takes its last ones with it.
+    std::map<std::string, long> contextSwitchesByThread;
     /// Clock ticks on a processor, in its own code and in the kernel's for it.
     long processorTicks = 0;
 
