@@ -1,6 +1,7 @@
 // Takes the real program through what it can do, on a desktop of its own and with real input, and
 // leaves numbered pictures of the screen in the folder that is its argument.
 
+#include "desktop/support/ChildProcess.h"
 #include "desktop/support/InputDriver.h"
 #include "desktop/support/Program.h"
 #include "desktop/support/ScreenReader.h"
@@ -39,6 +40,7 @@ public:
         showTheHalo();
         showTheSpotlight();
         showTheLens();
+        showTheSettings();
     }
 
 private:
@@ -178,11 +180,19 @@ private:
     void showTheLens() {
         m_input.chord({"Super_L", "Shift_L", "x"});
         settle(600);
-        glideTo({1180, 470});
+        glideTo({1112, 560});
         settle(400);
         picture("the-lens");
         m_input.chord({"Super_L", "Shift_L", "x"});
         settle();
+    }
+
+    void showTheSettings() {
+        // A second start asks the first for its settings.
+        ChildProcess({Program::path()}, m_desktop.environment()).waitForExit();
+        settle(800);
+        picture("the-settings");
+        m_program->terminate();
     }
 
     void glideTo(Pixel place) {
