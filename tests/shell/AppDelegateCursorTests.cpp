@@ -2,6 +2,9 @@
 #include "model/NotificationNames.h"
 #include "shell/ShellTest.h"
 
+#include <memory>
+#include <stdexcept>
+
 namespace quillon::test {
 
 namespace {
@@ -20,12 +23,12 @@ TEST_F(AppDelegateCursorTest, a_launch_shows_no_halo_whatever_is_stored) {
     EXPECT_TRUE(host.windows.calls.empty());
 }
 
-TEST_F(AppDelegateCursorTest, the_manager_follows_the_settings_from_the_launch_on) {
+TEST_F(AppDelegateCursorTest, the_manager_is_there_from_the_launch_on) {
     launch();
-    int changes = 0;
-    const auto observer = manager().objectWillChange.sink([&] { ++changes; });
-    settings().haloSize = 50;
-    EXPECT_EQ(changes, 1);
+    const auto makeAnother = []() -> std::shared_ptr<CursorHighlightManager> {
+        throw std::logic_error("the launch made none");
+    };
+    EXPECT_NO_THROW(host.host.shared<CursorHighlightManager>(makeAnother));
 }
 
 TEST_F(AppDelegateCursorTest, the_switch_turns_the_stored_value_and_the_manager_on_together) {
@@ -36,6 +39,15 @@ TEST_F(AppDelegateCursorTest, the_switch_turns_the_stored_value_and_the_manager_
     post(NotificationName::toggleCursorHalo);
     EXPECT_FALSE(settings().isCursorHaloEnabled);
     EXPECT_FALSE(manager().isEnabled);
+}
+
+TEST_F(AppDelegateCursorTest, the_value_is_stored_before_the_manager_takes_it) {
+    launch();
+    bool wasStored = false;
+    const auto observer = manager().isEnabled.sinkDroppingFirst(
+        [&](bool) { wasStored = settings().isCursorHaloEnabled; });
+    delegate->toggleCursorHalo();
+    EXPECT_TRUE(wasStored);
 }
 
 TEST_F(AppDelegateCursorTest, with_the_halo_stored_on_the_first_use_of_the_switch_turns_both_off) {

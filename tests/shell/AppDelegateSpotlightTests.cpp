@@ -2,6 +2,9 @@
 #include "shell/ShellTest.h"
 #include "spotlight/SpotlightManager.h"
 
+#include <memory>
+#include <stdexcept>
+
 namespace quillon::test {
 
 namespace {
@@ -20,10 +23,10 @@ TEST_F(AppDelegateSpotlightTest, a_launch_leaves_the_spotlight_off_whatever_is_s
 
 TEST_F(AppDelegateSpotlightTest, the_manager_is_there_from_the_launch_on) {
     launch();
-    int changes = 0;
-    const auto observer = SpotlightManager::shared().objectWillChange.sink([&] { ++changes; });
-    settings().spotlightRadius = 99;
-    EXPECT_EQ(changes, 1);
+    const auto makeAnother = []() -> std::shared_ptr<SpotlightManager> {
+        throw std::logic_error("the launch made none");
+    };
+    EXPECT_NO_THROW(host.host.shared<SpotlightManager>(makeAnother));
 }
 
 TEST_F(AppDelegateSpotlightTest, the_shortcut_switches_the_manager_and_stores_what_it_reports) {

@@ -93,6 +93,16 @@ TEST_F(SpotlightManagerTest, the_circle_follows_the_pointer_from_one_screen_to_a
     EXPECT_EQ(shown().cursorLocation, (CGPoint{1500, 50}));
 }
 
+TEST_F(SpotlightManagerTest, the_circle_is_right_where_the_union_begins_left_of_and_below_zero) {
+    host.screens.all = {{{0, 0, 1000, 800}, {}, 1, "Primary"},
+                        {{-600, -300, 600, 700}, {}, 1, "Left, lower"}};
+    manager().isSpotlightEnabled = true;
+    movePointer({-500, -200});
+    EXPECT_EQ(shown().cursorLocation, (CGPoint{100, 1000}));
+    movePointer({900, 700});
+    EXPECT_EQ(shown().cursorLocation, (CGPoint{1500, 100}));
+}
+
 TEST_F(SpotlightManagerTest, the_circle_starts_where_the_pointer_is) {
     host.eventMonitors.location = {300, 1000};
     manager().isSpotlightEnabled = true;
@@ -165,6 +175,17 @@ TEST_F(SpotlightManagerTest, switched_on_again_it_is_the_same_window_with_its_ol
     EXPECT_TRUE(window->isVisible());
 }
 
+TEST_F(SpotlightManagerTest, switched_on_again_it_stands_at_the_pointer_and_follows_it_anew) {
+    manager().isSpotlightEnabled = true;
+    manager().isSpotlightEnabled = false;
+    host.eventMonitors.location = {70, 1000};
+    manager().isSpotlightEnabled = true;
+    host.mainQueue.run();
+    EXPECT_EQ(shown().cursorLocation, (CGPoint{70, 80}));
+    movePointer({200, 980});
+    EXPECT_EQ(shown().cursorLocation, (CGPoint{200, 100}));
+}
+
 TEST_F(SpotlightManagerTest, switching_on_what_is_on_brings_the_window_to_the_front_once_more) {
     manager().isSpotlightEnabled = true;
     host.windows.calls.clear();
@@ -228,6 +249,24 @@ TEST_F(SpotlightManagerTest, a_change_of_a_published_property_is_announced) {
     manager().isSpotlightEnabled = true;
     settings().spotlightIntensity = 0.5;
     EXPECT_EQ(announcements, 2);
+}
+
+TEST(SpotlightMonitor, a_place_that_waits_is_not_taken_after_the_manager_has_gone) {
+    /// Keeps what waits, also beyond the end of a host.
+    struct KeepingQueue : HandTurnedQueue {
+        void clear() override {}
+    } queue;
+    FakePorts fakes;
+    auto ports = fakes.ports();
+    ports.mainQueue = queue;
+    auto host = std::make_optional<Host>(ports);
+    SpotlightManager::shared().isSpotlightEnabled = true;
+    host.reset();
+    EXPECT_FALSE(queue.isIdle());
+    host.emplace(ports);
+    fakes.windows.calls.clear();
+    queue.run();
+    EXPECT_TRUE(fakes.windows.calls.empty());
 }
 
 TEST(SpotlightMonitor, after_the_manager_a_monitor_is_deaf) {

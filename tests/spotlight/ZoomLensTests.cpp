@@ -1,5 +1,7 @@
 #include "spotlight/ZoomTest.h"
 
+#include <string>
+
 #include <algorithm>
 
 namespace quillon::test {
@@ -233,6 +235,22 @@ TEST_F(ZoomLensTest, an_update_of_the_settings_writes_what_it_is_given_and_leave
     EXPECT_EQ(settings().magnificationFactor, MagnificationFactor::x2);
     EXPECT_EQ(settings().zoomWindowSize, 250);
     EXPECT_EQ(settings().zoomWindowOffsetX, 12);
+}
+
+TEST_F(ZoomLensTest, an_update_of_the_settings_goes_in_the_order_of_its_values) {
+    std::string order;
+    const auto note = [&](auto& property, char letter) {
+        return property.sinkDroppingFirst([&order, letter](const auto&) { order += letter; });
+    };
+    const auto intensity = note(manager().spotlightIntensity, 'i');
+    const auto radius = note(manager().spotlightRadius, 'r');
+    const auto magnification = note(manager().magnificationFactor, 'm');
+    const auto size = note(settings().zoomWindowSize, 's');
+    const auto offsetX = note(settings().zoomWindowOffsetX, 'x');
+    const auto offsetY = note(settings().zoomWindowOffsetY, 'y');
+    const auto crosshair = note(settings().showZoomCrosshair, 'c');
+    manager().updateSettings({0.5, 100, MagnificationFactor::x4, 250, 10, 20, false});
+    EXPECT_EQ(order, "irmsxyc");
 }
 
 } // namespace
