@@ -108,15 +108,16 @@ bool X11HotKeys::handleKeyPress(const xcb_key_press_event_t& event) {
     // The keys of the program's own windows count too: a shortcut may be registered while the keys
     // that were pressed to record it are still down.
     const HeldKeys::Press press = m_heldKeys.pressed(event.detail, event.time);
-    if (event.event != m_root) {
+    const auto modifiers =
+        static_cast<std::uint16_t>(event.state & modifierBits & ~m_keyboard.modifiers.locks());
+    const HotKey* hotKey = holderOf({event.detail, modifiers});
+    // While the program has grabbed the keyboard as a whole, as for a menu, the server heeds no
+    // other grab, and sends even the key of a hot key to the window that grabbed.
+    if (event.event != m_root && !hotKey) {
         return false;
     }
-    if (press == HeldKeys::Press::first) {
-        const auto modifiers =
-            static_cast<std::uint16_t>(event.state & modifierBits & ~m_keyboard.modifiers.locks());
-        if (const HotKey* hotKey = holderOf({event.detail, modifiers})) {
-            dispatch(hotKey->id);
-        }
+    if (press == HeldKeys::Press::first && hotKey) {
+        dispatch(hotKey->id);
     }
     return true;
 }

@@ -38,6 +38,28 @@ TEST_F(X11HotKeysTest, a_second_key_may_be_pressed_while_the_first_is_held) {
     EXPECT_EQ(program.presses(), (Ids{1, 2}));
 }
 
+TEST_F(X11HotKeysTest, a_menu_of_the_program_that_has_the_whole_keyboard_leaves_them_alive) {
+    program.bind(virtualKey::s, commandShift, 1);
+    xcb_connection_t* connection = program.client.connection();
+    const xcb_window_t menu = xcb_generate_id(connection);
+    const std::uint32_t mask = XCB_EVENT_MASK_KEY_PRESS;
+    xcb_create_window(connection, XCB_COPY_FROM_PARENT, menu, program.client.root(), 0, 0, 50, 50,
+                      0, XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK,
+                      &mask);
+    xcb_map_window(connection, menu);
+    const XcbOwned<xcb_grab_keyboard_reply_t> grabbed(
+        xcb_grab_keyboard_reply(connection,
+                                xcb_grab_keyboard(connection, 0, menu, XCB_CURRENT_TIME,
+                                                  XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC),
+                                nullptr));
+    ASSERT_EQ(grabbed->status, XCB_GRAB_STATUS_SUCCESS);
+    keyboard.strike({key::s});
+    EXPECT_EQ(program.presses(), Ids{});
+    keyboard.strike({key::leftSuper, key::leftShift, key::s});
+    EXPECT_EQ(program.presses(), Ids{1});
+    EXPECT_EQ(program.swallowed, 1);
+}
+
 TEST_F(X11HotKeysTest, only_exactly_its_modifiers_match) {
     program.bind(virtualKey::s, commandShift, 1);
     keyboard.strike({key::s});
