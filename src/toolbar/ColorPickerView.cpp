@@ -107,21 +107,17 @@ ColorPickerView::Channel ColorPickerView::opacityChannel() {
 }
 
 std::vector<ColorPickerView::QuickColorCell> ColorPickerView::quickColorCells() const {
+    using Role = ContextMenuEntry::Role;
     const std::vector<Color>& colors = m_quickColors.get();
     std::vector<QuickColorCell> cells;
     for (std::size_t index = 0; index < colors.size(); ++index) {
+        const auto setAsCurrent = [selected = m_selectedColor, color = colors[index]] {
+            selected.set(color);
+        };
         QuickColorCell cell{.swatch = {colors[index], false, quickSwatchSize},
-                            .setAsCurrent = [selected = m_selectedColor,
-                                             color = colors[index]] { selected.set(color); },
-                            .remove =
-                                [quick = m_quickColors, index] {
-                                    quick.modify([index](std::vector<Color>& list) {
-                                        if (index < list.size()) {
-                                            list.erase(list.begin() +
-                                                       static_cast<std::ptrdiff_t>(index));
-                                        }
-                                    });
-                                },
+                            .action = setAsCurrent,
+                            .contextMenu = {{"Remove", Role::destructive, removing(index)},
+                                            {"Set as Current", Role::plain, setAsCurrent}},
                             .addButton = std::nullopt};
         if (index + 1 == colors.size() && colors.size() < quickColorLimit) {
             cell.addButton = AddButton{[selected = m_selectedColor, quick = m_quickColors] {
@@ -131,6 +127,16 @@ std::vector<ColorPickerView::QuickColorCell> ColorPickerView::quickColorCells() 
         cells.push_back(std::move(cell));
     }
     return cells;
+}
+
+std::function<void()> ColorPickerView::removing(std::size_t index) const {
+    return [quick = m_quickColors, index] {
+        quick.modify([index](std::vector<Color>& list) {
+            if (index < list.size()) {
+                list.erase(list.begin() + static_cast<std::ptrdiff_t>(index));
+            }
+        });
+    };
 }
 
 } // namespace quillon

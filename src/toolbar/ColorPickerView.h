@@ -79,16 +79,21 @@ public:
 
         std::function<void()> action;
     };
+    struct ContextMenuEntry {
+        enum class Role { plain, destructive };
+
+        std::string title;
+        Role role = Role::plain;
+        std::function<void()> action;
+    };
     struct QuickColorCell {
         ColorSwatchView swatch;
-        /// A click, and the entry "Set as Current".
-        std::function<void()> setAsCurrent;
-        std::function<void()> remove;
+        /// Run on a click.
+        std::function<void()> action;
+        std::vector<ContextMenuEntry> contextMenu;
         /// On the last cell alone, and only while there is room for another colour.
         std::optional<AddButton> addButton;
     };
-    static constexpr const char* removeTitle = "Remove";
-    static constexpr const char* setAsCurrentTitle = "Set as Current";
     std::vector<QuickColorCell> quickColorCells() const;
 
     const Color& selectedColor() const { return m_selectedColor.get(); }
@@ -108,6 +113,7 @@ private:
     void change(const std::function<void(Numbers&)>& change);
     void numberChanged();
     Binding<double> binding(double Numbers::*number);
+    std::function<void()> removing(std::size_t index) const;
 
     Binding<Color> m_selectedColor;
     Binding<std::vector<Color>> m_quickColors;

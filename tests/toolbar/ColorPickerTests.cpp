@@ -133,6 +133,10 @@ TEST_F(ColorPicker, opacity_does_not_show_in_hexadecimal) {
     EXPECT_EQ(colorHex(Color(1, 0.5, 0, 0.5)), colorHex(Color(1, 0.5, 0)));
 }
 
+TEST_F(ColorPicker, a_component_below_zero_is_not_clamped_in_hexadecimal) {
+    EXPECT_EQ(colorHex(Color(0, -0.1, 0)), "#00FFFFFFE700");
+}
+
 TEST_F(ColorPicker, components_beyond_one_are_not_clamped_in_hexadecimal) {
     EXPECT_EQ(colorHex(Color(2, 0, 0)), "#1FE0000");
 }
@@ -171,25 +175,25 @@ TEST_F(ColorPicker, the_tenth_colour_takes_the_add_button_away_and_a_removal_bri
     for (const auto& cell : picker.quickColorCells()) {
         EXPECT_FALSE(cell.addButton);
     }
-    picker.quickColorCells()[3].remove();
+    picker.quickColorCells()[3].contextMenu[0].action();
     EXPECT_TRUE(picker.quickColorCells().back().addButton);
 }
 
 TEST_F(ColorPicker, without_quick_colours_there_is_no_cell_and_nothing_to_add_with) {
     giveQuickColors(1);
-    picker.quickColorCells()[0].remove();
+    picker.quickColorCells()[0].contextMenu[0].action();
     EXPECT_TRUE(picker.quickColorCells().empty());
 }
 
 TEST_F(ColorPicker, removing_takes_out_the_colour_of_that_cell) {
-    picker.quickColorCells()[1].remove();
+    picker.quickColorCells()[1].contextMenu[0].action();
     EXPECT_EQ(quick, (std::vector<Color>{Color::red, Color::green, Color::cyan, Color::purple}));
 }
 
 TEST_F(ColorPicker, a_removal_that_comes_too_late_changes_nothing) {
     const auto cells = picker.quickColorCells();
     giveQuickColors(1);
-    cells[4].remove();
+    cells[4].contextMenu[0].action();
     EXPECT_EQ(quick.size(), 1U);
 }
 
@@ -197,8 +201,22 @@ TEST_F(ColorPicker, a_quick_colour_is_never_marked_and_becomes_current_by_a_clic
     selected = quick[2];
     EXPECT_FALSE(picker.quickColorCells()[2].swatch.isSelected);
     EXPECT_EQ(picker.quickColorCells()[2].swatch.size, 28);
-    picker.quickColorCells()[3].setAsCurrent();
+    picker.quickColorCells()[3].action();
     EXPECT_EQ(selected, quick[3]);
+}
+
+TEST_F(ColorPicker, the_context_menu_removes_a_colour_or_makes_it_the_current_one) {
+    using Role = ColorPickerView::ContextMenuEntry::Role;
+    for (const auto& cell : picker.quickColorCells()) {
+        ASSERT_EQ(cell.contextMenu.size(), 2U);
+        EXPECT_EQ(cell.contextMenu[0].title, "Remove");
+        EXPECT_EQ(cell.contextMenu[0].role, Role::destructive);
+        EXPECT_EQ(cell.contextMenu[1].title, "Set as Current");
+        EXPECT_EQ(cell.contextMenu[1].role, Role::plain);
+    }
+    picker.quickColorCells()[2].contextMenu[1].action();
+    EXPECT_EQ(selected, Color::green);
+    EXPECT_EQ(quick.size(), 5U);
 }
 
 } // namespace

@@ -258,9 +258,9 @@ TEST_F(FloatingToolbar, a_tool_picked_under_the_pointer_loses_the_hover_until_it
 
 TEST_F(FloatingToolbar, the_popovers_content_edits_the_shared_colour_and_the_quick_colours) {
     const auto picker = toolbar.makeColorPicker();
-    picker->quickColorCells()[0].setAsCurrent();
+    picker->quickColorCells()[0].action();
     EXPECT_EQ(color, quickColors[0]);
-    picker->quickColorCells()[0].remove();
+    picker->quickColorCells()[0].contextMenu[0].action();
     EXPECT_EQ(quickColors.size(), 4U);
 }
 

@@ -101,10 +101,11 @@ void ColorPickerWidget::addChannel(std::function<Channel()> channel, QVBoxLayout
 
 void ColorPickerWidget::addQuickColors(QVBoxLayout& column) {
     auto* group = new QVBoxLayout;
-    group->setSpacing(qRound(View::quickColorsSpacing));
+    constexpr int overhang = QuickColorsWidget::overhang;
+    group->setSpacing(qRound(View::quickColorsSpacing) - overhang);
+    group->setContentsMargins(0, 0, 0, -overhang);
     group->addWidget(new CaptionLabel(View::quickColorsTitle));
     m_quickColors = new QuickColorsWidget(*this);
-    constexpr int overhang = QuickColorsWidget::overhang;
     m_quickColors->setFixedWidth(width() - 2 * qRound(View::padding) + overhang);
     group->addWidget(m_quickColors);
     column.addLayout(group);

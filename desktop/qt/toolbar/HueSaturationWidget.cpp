@@ -32,18 +32,25 @@ QRectF HueSaturationWidget::square() const {
 }
 
 void HueSaturationWidget::showEvent(QShowEvent* /*event*/) {
-    m_picker.appeared({QSizeF(size()).width(), QSizeF(size()).height()});
+    m_picker.appeared({square().width(), square().height()});
 }
 
 void HueSaturationWidget::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton) {
+    if (event->button() == Qt::LeftButton && square().contains(event->position())) {
+        m_isDragging = true;
         dragTo(event->position());
     }
 }
 
 void HueSaturationWidget::mouseMoveEvent(QMouseEvent* event) {
-    if (event->buttons().testFlag(Qt::LeftButton)) {
+    if (m_isDragging) {
         dragTo(event->position());
+    }
+}
+
+void HueSaturationWidget::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) {
+        m_isDragging = false;
     }
 }
 

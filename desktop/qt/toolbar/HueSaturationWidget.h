@@ -7,7 +7,8 @@
 
 namespace quillon::desktop {
 
-/// The colour wheel on the screen. The arrow keys move the marker as the pointer does.
+/// The colour wheel on the screen. A press in its square starts a drag, which may go on outside;
+/// the arrow keys move the marker as the pointer does.
 class HueSaturationWidget : public QWidget {
 public:
     HueSaturationWidget(HueSaturationPicker& picker, QWidget& parent);
@@ -17,6 +18,7 @@ protected:
     void showEvent(QShowEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
@@ -29,6 +31,7 @@ private:
     HueSaturationPicker& m_picker;
     QImage m_wheel;
     double m_wheelBrightness = -1;
+    bool m_isDragging = false;
 };
 
 } // namespace quillon::desktop

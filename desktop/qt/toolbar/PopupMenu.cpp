@@ -1,6 +1,9 @@
 #include "desktop/qt/toolbar/PopupMenu.h"
 
+#include "desktop/qt/Appearance.h"
 #include "desktop/qt/PopupSurface.h"
+
+#include <QStyleOptionMenuItem>
 
 namespace quillon::desktop {
 
@@ -10,6 +13,14 @@ PopupMenu::PopupMenu(QWidget& parent)
     setWindowFlag(Qt::FramelessWindowHint);
     setWindowFlag(Qt::NoDropShadowWindowHint);
     prepareSurface(*this);
+}
+
+void PopupMenu::initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const {
+    QMenu::initStyleOption(option, action);
+    if (action && action == m_destructive) {
+        option->palette.setColor(QPalette::WindowText,
+                                 toQColor(SemanticColor::red, option->palette));
+    }
 }
 
 } // namespace quillon::desktop

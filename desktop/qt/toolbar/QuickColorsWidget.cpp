@@ -24,6 +24,7 @@ public:
         : QAbstractButton(&parent) {
         setAccessibleName(tr("Add the current colour"));
         setAttribute(Qt::WA_Hover);
+        setFocusPolicy(Qt::TabFocus);
     }
 
 protected:
@@ -32,9 +33,7 @@ protected:
         painter.setRenderHint(QPainter::Antialiasing);
         const qreal width = View::AddButton::borderLineWidth;
         const bool isPointedAt = underMouse() || hasFocus();
-        QPen border(
-            toQColor(isPointedAt ? SemanticColor::accent : SemanticColor::primary, palette()),
-            width);
+        QPen border(toQColor(SemanticColor::primary, palette()), width);
         border.setDashPattern(
             {View::AddButton::dashLength / width, View::AddButton::dashLength / width});
         const QPointF center = QRectF(rect()).center();
@@ -43,6 +42,11 @@ protected:
         painter.drawPixmap(center - QPointF(side, side) / 2,
                            symbolPixmap(View::AddButton::icon, side, devicePixelRatioF(),
                                         toQColor(SemanticColor::secondary, palette())));
+        if (isPointedAt) {
+            painter.strokePath(
+                circle(center, View::AddButton::diameter + ColorSwatchView::ringMargin),
+                QPen(toQColor(SemanticColor::accent, palette()), 2));
+        }
     }
 };
 
@@ -54,23 +58,39 @@ public:
         , m_cell(std::move(cell)) {
         auto* swatch = new SwatchButton(m_cell.swatch, *this);
         resize(swatch->size());
-        connect(swatch, &QAbstractButton::clicked, this, m_cell.setAsCurrent);
+        swatch->installEventFilter(this);
+        connect(swatch, &QAbstractButton::clicked, this, m_cell.action);
+        setFocusProxy(swatch);
         if (m_cell.addButton) {
             auto* add = new AddColorButton(*this);
-            const int side = qRound(View::AddButton::diameter);
-            add->setGeometry((width() - side) / 2, (height() - side) / 2, side, side);
+            // The face is smaller; round it goes the ring of the focus.
+            add->setGeometry(rect());
+            add->installEventFilter(this);
             // The swatch cannot be reached below it.
             swatch->setFocusPolicy(Qt::NoFocus);
             connect(add, &QAbstractButton::clicked, this, m_cell.addButton->action);
+            setFocusProxy(add);
         }
     }
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        // The cells overlap: the ring of this one is to be seen whole.
+        if (event->type() == QEvent::FocusIn || event->type() == QEvent::Enter) {
+            raise();
+        }
+        return QWidget::eventFilter(watched, event);
+    }
     void contextMenuEvent(QContextMenuEvent* event) override {
         auto* menu = new PopupMenu(*this);
         menu->setAttribute(Qt::WA_DeleteOnClose);
-        menu->addAction(View::removeTitle, this, m_cell.remove);
-        menu->addAction(View::setAsCurrentTitle, this, m_cell.setAsCurrent);
+        for (const auto& entry : m_cell.contextMenu) {
+            const QAction* action =
+                menu->addAction(QString::fromStdString(entry.title), this, entry.action);
+            if (entry.role == View::ContextMenuEntry::Role::destructive) {
+                menu->setDestructive(action);
+            }
+        }
         menu->popup(event->globalPos());
     }
 
@@ -91,6 +111,8 @@ void QuickColorsWidget::follow(const std::vector<ColorPickerView::QuickColorCell
     if (!m_children.empty() && colors == m_colors) {
         return;
     }
+    const int focused = focusedCell();
+    const bool isLonger = colors.size() > m_colors.size();
     for (QWidget* child : std::exchange(m_children, {})) {
         child->hide();
         child->deleteLater();
@@ -102,7 +124,23 @@ void QuickColorsWidget::follow(const std::vector<ColorPickerView::QuickColorCell
     }
     const int rows = (index + View::columnCount - 1) / View::columnCount;
     const qreal height = rows * View::quickSwatchSize + qMax(rows - 1, 0) * View::rowSpacing;
-    setFixedHeight(qCeil(height));
+    setFixedHeight(qCeil(height) + 2 * overhang);
+    if (focused >= 0 && !m_children.empty()) {
+        // The keyboard stays with the add button, or goes to what moved up.
+        const std::size_t last = m_children.size() - 1;
+        m_children[isLonger ? last : qMin(static_cast<std::size_t>(focused), last)]->setFocus(
+            Qt::TabFocusReason);
+    }
+}
+
+int QuickColorsWidget::focusedCell() const {
+    const QWidget* focus = window()->focusWidget();
+    for (std::size_t index = 0; focus && index < m_children.size(); ++index) {
+        if (m_children[index]->isAncestorOf(focus)) {
+            return static_cast<int>(index);
+        }
+    }
+    return -1;
 }
 
 void QuickColorsWidget::addCell(const ColorPickerView::QuickColorCell& cell, int index) {
@@ -112,7 +150,7 @@ void QuickColorsWidget::addCell(const ColorPickerView::QuickColorCell& cell, int
     const int column = index % View::columnCount;
     const int row = index / View::columnCount;
     const QPointF center(overhang + column * (columnWidth + View::columnSpacing) + columnWidth / 2,
-                         row * (View::quickSwatchSize + View::rowSpacing) +
+                         overhang + row * (View::quickSwatchSize + View::rowSpacing) +
                              View::quickSwatchSize / 2);
     child->move((center - QPointF(child->width(), child->height()) / 2).toPoint());
     child->show();
