@@ -102,6 +102,11 @@ void QtWindow::grabPointerIfNeeded() {
     }
     const bool done = m_widget.windowHandle()->setMouseGrabEnabled(wanted);
     noteGrab(wanted && done);
+    m_popups.reset();
+    if (m_grabsPointer) {
+        // A popup takes the pointer over, and gives it back to nobody.
+        m_popups.emplace([this] { confirmGrab(); });
+    }
     if (wanted && !done) {
         // Somebody else holds a button down; that passes.
         QTimer::singleShot(kGrabAgain, &m_widget, [this] { grabPointerIfNeeded(); });
@@ -115,7 +120,7 @@ void QtWindow::grabPointerIfNeeded() {
 }
 
 void QtWindow::confirmGrab() {
-    if (m_grabsPointer) {
+    if (m_grabsPointer && !PopupWatch::isPopupOpen()) {
         m_widget.windowHandle()->setMouseGrabEnabled(true);
     }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/qt/ContentWidget.h"
+#include "desktop/qt/PopupWatch.h"
 #include "desktop/qt/WindowPlacement.h"
 #include "desktop/x11/CompositorWatch.h"
 #include "desktop/x11/KeyboardFocus.h"
@@ -8,6 +9,8 @@
 #include "platform/Window.h"
 
 #include <xcb/xcb.h>
+
+#include <optional>
 
 namespace quillon::desktop {
 
@@ -58,6 +61,7 @@ private:
     ContentWidget m_widget;
     WindowPlacement m_placement;
     bool m_grabsPointer = false;
+    std::optional<PopupWatch> m_popups;
     Cancellable m_compositorChange;
 };
 
