@@ -112,6 +112,9 @@ void ContentWidget::setComposited(bool composited) {
     } else {
         m_inkMask.emplace();
     }
+    if (m_controls) {
+        m_controls->setComposited(composited);
+    }
     if (isVisible()) {
         repaint();
     }
@@ -227,8 +230,16 @@ void ContentWidget::paintOutlined(QPainter& painter, const QRect& rect) {
 void ContentWidget::tellOutline() {
     if (m_inkMask && onOutlined) {
         QRegion outline = m_inkMask->region();
-        for (const QRect& child : childrenRegion()) {
-            outline += devicePixels(fromQRectF(child), devicePixelRatio());
+        const auto add = [&](const QRegion& points) {
+            for (const QRect& rect : points) {
+                outline += devicePixels(fromQRectF(rect), devicePixelRatio());
+            }
+        };
+        if (m_controls) {
+            add(m_controls->outline().translated(m_controls->pos()));
+        }
+        if (m_textField) {
+            add(m_textField->geometry());
         }
         onOutlined(outline);
     }
@@ -348,6 +359,7 @@ void ContentWidget::tellControlsPlace() {
 
 void ContentWidget::showControls(const std::shared_ptr<ControlView>& view) {
     m_controls = ControlsWidget::make(view, *this);
+    m_controls->setComposited(isComposited());
     m_controls->bodyDrag = {
         .pressed =
             [this](QPointF place) { m_content->rootView->controlsMouseDown(fromQPointF(place)); },

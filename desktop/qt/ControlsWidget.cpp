@@ -34,6 +34,11 @@ void ControlsWidget::place(QPointF center) {
     move((center - QPointF(width(), height()) / 2).toPoint());
 }
 
+void ControlsWidget::setComposited(bool composited) {
+    m_isComposited = composited;
+    update();
+}
+
 void ControlsWidget::scheduleUpdate() {
     if (!std::exchange(m_isUpdatePending, true)) {
         QCoreApplication::postEvent(this, new QEvent(kBringUpToDate));

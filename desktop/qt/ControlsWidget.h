@@ -24,6 +24,11 @@ public:
     /// Where the view's body is to be seen, in the widget's coordinates. A press beside the
     /// controls and outside of the body goes on to what lies below.
     virtual QRectF body() const = 0;
+    /// Where nothing can be translucent, the body is drawn opaque and without what lies round it.
+    void setComposited(bool composited);
+    bool isComposited() const { return m_isComposited; }
+    /// What is to be seen of the widget then, in its coordinates.
+    virtual QRegion outline() const = 0;
     /// `center` in the parent's coordinates.
     void place(QPointF center);
 
@@ -51,6 +56,7 @@ private:
     std::shared_ptr<ControlView> m_view;
     bool m_isUpdatePending = false;
     bool m_isDragging = false;
+    bool m_isComposited = true;
     Cancellable m_subscription;
 };
 

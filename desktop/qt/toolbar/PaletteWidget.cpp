@@ -2,10 +2,12 @@
 
 #include "desktop/qt/Appearance.h"
 #include "desktop/qt/toolbar/ColorPopover.h"
+#include "desktop/qt/toolbar/PaletteAccessibility.h"
 #include "desktop/qt/toolbar/ToolbarButtonWidget.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
+#include <QPainterPath>
 
 #include <utility>
 
@@ -38,6 +40,7 @@ std::vector<PaletteControl> controlsOf(const PaletteChild& child) {
 PaletteWidget::PaletteWidget(std::shared_ptr<FloatingToolbarView> toolbar, QWidget& parent)
     : ControlsWidget(toolbar, parent)
     , m_toolbar(std::move(toolbar)) {
+    describePaletteToAssistiveTools();
     setAccessibleName(tr("Annotation palette"));
     layOut(m_toolbar->row());
     adjustSize();
@@ -101,7 +104,15 @@ QRectF PaletteWidget::body() const {
 
 void PaletteWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    m_panel.paint(painter, body(), palette());
+    m_panel.paint(painter, body(), palette(),
+                  isComposited() ? Panel::Material::translucent : Panel::Material::opaque);
+}
+
+QRegion PaletteWidget::outline() const {
+    const qreal radius = PalettePanel::cornerRadius;
+    QPainterPath path;
+    path.addRoundedRect(body(), radius, radius);
+    return path.toFillPolygon().toPolygon();
 }
 
 } // namespace quillon::desktop

@@ -19,6 +19,7 @@ public:
     ~PaletteWidget() override;
 
     QRectF body() const override;
+    QRegion outline() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

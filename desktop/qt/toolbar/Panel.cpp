@@ -24,10 +24,12 @@ int shadowReach(const Shadow& shadow) {
     return qCeil(blur + qMax(qAbs(shadow.offset.width), qAbs(shadow.offset.height)));
 }
 
-void Panel::paint(QPainter& painter, const QRectF& rect, const QPalette& palette) {
+void Panel::paint(QPainter& painter, const QRectF& rect, const QPalette& palette,
+                  Material material) {
     const qreal scale = painter.device()->devicePixelRatio();
     if (m_picture.isNull() || m_size != rect.size() || m_picture.devicePixelRatio() != scale ||
-        m_paletteKey != palette.cacheKey()) {
+        m_paletteKey != palette.cacheKey() || m_material != material) {
+        m_material = material;
         m_picture = draw(rect.size(), scale, palette);
         m_size = rect.size();
         m_paletteKey = palette.cacheKey();
@@ -48,7 +50,9 @@ QImage Panel::draw(QSizeF size, qreal scale, const QPalette& palette) const {
 
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(outline.translated(shadow.offset.width, shadow.offset.height), Qt::black);
+    if (m_material == Material::translucent) {
+        painter.fillPath(outline.translated(shadow.offset.width, shadow.offset.height), Qt::black);
+    }
     painter.end();
     picture = tinted(blurred(picture, shadow.radius / 2 * scale), toQColor(shadow.color));
     picture.setDevicePixelRatio(scale);
@@ -59,7 +63,11 @@ QImage Panel::draw(QSizeF size, qreal scale, const QPalette& palette) const {
     painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
     painter.fillPath(outline, Qt::black);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    painter.fillPath(outline, panelMaterial(palette));
+    QColor material = panelMaterial(palette);
+    if (m_material == Material::opaque) {
+        material.setAlpha(255);
+    }
+    painter.fillPath(outline, material);
     const qreal inset = PalettePanel::borderLineWidth / 2;
     const QPainterPath border = roundedPath(panel.adjusted(inset, inset, -inset, -inset),
                                             PalettePanel::cornerRadius - inset);

@@ -17,8 +17,14 @@ int shadowReach(const Shadow& shadow);
 /// size, its scale or the look of the desktop changes.
 class Panel {
 public:
+    enum class Material {
+        translucent,
+        /// The panel alone, with no shadow, for a screen that cannot show one.
+        opaque,
+    };
+
     /// `rect` in points.
-    void paint(QPainter& painter, const QRectF& rect, const QPalette& palette);
+    void paint(QPainter& painter, const QRectF& rect, const QPalette& palette, Material material);
 
 private:
     QImage draw(QSizeF size, qreal scale, const QPalette& palette) const;
@@ -26,6 +32,7 @@ private:
     QImage m_picture;
     QSizeF m_size;
     qint64 m_paletteKey = 0;
+    Material m_material = Material::translucent;
 };
 
 } // namespace quillon::desktop
