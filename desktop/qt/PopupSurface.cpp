@@ -8,7 +8,7 @@ namespace quillon::desktop {
 
 void prepareSurface(QWidget& popup) {
     const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (x11 && isCompositorRunning(x11->connection())) {
+    if (x11 && x11->connection() && isCompositorRunning(x11->connection())) {
         popup.setAttribute(Qt::WA_TranslucentBackground);
     }
 }

@@ -33,10 +33,18 @@ SliderWidget::SliderWidget(Range range, Binding<CGFloat> value, QWidget& parent)
 }
 
 void SliderWidget::follow() {
-    const double value = qBound(m_range.minimum, m_binding.get(), m_range.maximum);
-    const double share = (value - m_range.minimum) / (m_range.maximum - m_range.minimum);
     const QSignalBlocker silent(this);
-    setValue(qRound(share * maximum()));
+    setValue(positionOf(m_binding.get()));
+}
+
+void SliderWidget::setBoundValue(double value) {
+    setValue(positionOf(value));
+}
+
+int SliderWidget::positionOf(double value) const {
+    const double within = qBound(m_range.minimum, value, m_range.maximum);
+    const double share = (within - m_range.minimum) / (m_range.maximum - m_range.minimum);
+    return qRound(share * maximum());
 }
 
 double SliderWidget::valueAt(int position) const {

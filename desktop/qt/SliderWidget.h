@@ -24,6 +24,11 @@ public:
 
     /// Shows the bound number, whoever changed it.
     void follow();
+
+    const Range& range() const { return m_range; }
+    double boundValue() const { return m_binding.get(); }
+    /// Goes to the place nearest to `value`.
+    void setBoundValue(double value);
     /// The colour of the part of the track below the value; without one it is the accent colour.
     void setAccent(const std::optional<QColor>& accent);
 
@@ -39,6 +44,7 @@ protected:
 private:
     void goTo(qreal x);
     double valueAt(int position) const;
+    int positionOf(double value) const;
 
     Range m_range;
     Binding<CGFloat> m_binding;

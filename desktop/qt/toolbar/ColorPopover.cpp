@@ -51,6 +51,8 @@ void ColorPopover::showBelow(const QRectF& anchor) {
         top = qRound(anchor.top()) - height();
         m_arrowEdge = ArrowEdge::bottom;
     }
+    // With room on neither side it lies over the palette rather than beyond the screen.
+    top = qBound(area.top(), top, qMax(area.bottom() + 1 - height(), area.top()));
     const int left = qBound(area.left() + kScreenMargin, qRound(anchor.center().x()) - width() / 2,
                             qMax(area.right() - kScreenMargin - width(), area.left()));
     const qreal corner = kRadius + kArrowHalfWidth;

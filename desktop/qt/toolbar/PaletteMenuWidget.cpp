@@ -51,10 +51,14 @@ void PaletteMenuWidget::build(const ToolMenu& menu) {
         action->setCheckable(true);
         action->setChecked(entry.hasCheckmark);
         connect(action, &QAction::triggered, this, entry.action);
+        if (entry.hasCheckmark) {
+            m_firstEntry = action;
+        }
     }
 }
 
 void PaletteMenuWidget::build(const ColorMenu& menu) {
+    bool startsWithSelected = false;
     for (const SwatchSection& section : menu.sections) {
         auto* widget = new QWidget;
         auto* column = new QVBoxLayout(widget);
@@ -68,13 +72,24 @@ void PaletteMenuWidget::build(const ColorMenu& menu) {
         column->addLayout(grid);
         qreal columnWidth = SwatchSection::minimumColumnWidth;
         int index = 0;
+        std::vector<QWidget*> row;
         for (const auto& swatch : section.swatches) {
+            if (index % kColumns == 0) {
+                m_focus.addRow(std::exchange(row, {}));
+            }
             auto* button = new SwatchButton(swatch.face, *widget);
             connect(button, &QAbstractButton::clicked, this, choosing(swatch.action));
             grid->addWidget(button, index / kColumns, index % kColumns, Qt::AlignCenter);
             columnWidth = qMax(columnWidth, QSizeF(button->size()).width());
+            row.push_back(button);
+            const bool startsHere = swatch.face.isSelected && !startsWithSelected;
+            if (startsHere || !m_firstControl) {
+                m_firstControl = button;
+            }
+            startsWithSelected = startsWithSelected || startsHere;
             ++index;
         }
+        m_focus.addRow(row);
         for (int gridColumn = 0; gridColumn < kColumns; ++gridColumn) {
             grid->setColumnMinimumWidth(gridColumn, qRound(columnWidth));
         }
@@ -110,14 +125,34 @@ void PaletteMenuWidget::build(const LineWidthMenu& menu) {
     addSymbol(menu.slider.maximumIcon, kTitle2Size);
     column->addLayout(sliderRow);
 
+    m_focus.addRow({m_slider});
+    m_firstControl = m_slider;
+
     auto* presets = new QHBoxLayout;
+    std::vector<QWidget*> presetRow;
     for (const LineWidthPreset& preset : menu.presets) {
         auto* button = new PresetButton(preset, *widget);
         connect(button, &QAbstractButton::clicked, this, choosing(preset.action));
         presets->addWidget(button);
+        presetRow.push_back(button);
     }
+    m_focus.addRow(presetRow);
     column->addLayout(presets);
     addWidget(widget);
+}
+
+void PaletteMenuWidget::startWithKeyboard() {
+    if (m_firstControl) {
+        m_focus.goTo(*m_firstControl);
+    } else if (m_firstEntry) {
+        setActiveAction(m_firstEntry);
+    }
+}
+
+void PaletteMenuWidget::keyPressEvent(QKeyEvent* event) {
+    if (!m_focus.handleKey(*event)) {
+        PopupMenu::keyPressEvent(event);
+    }
 }
 
 void PaletteMenuWidget::follow(const PaletteMenu& menu) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/qt/toolbar/MenuFocus.h"
 #include "desktop/qt/toolbar/PopupMenu.h"
 #include "toolbar/FloatingToolbarView.h"
 
@@ -19,6 +20,12 @@ public:
     /// Takes over a newer description of the same menu, while it is open.
     void follow(const PaletteMenu& menu);
 
+    /// Brings the keyboard to what is chosen now, or to the first control.
+    void startWithKeyboard();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     void build(const ToolMenu& menu);
     void build(const ColorMenu& menu);
@@ -27,6 +34,10 @@ private:
     /// Closes the menu and then acts, so that nothing new opens below it.
     std::function<void()> choosing(std::function<void()> action);
 
+    MenuFocus m_focus{*this};
+    /// The control, or the entry, with which the keyboard starts.
+    QWidget* m_firstControl = nullptr;
+    QAction* m_firstEntry = nullptr;
     QLabel* m_heading = nullptr;
     SliderWidget* m_slider = nullptr;
 };

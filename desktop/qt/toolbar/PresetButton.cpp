@@ -18,6 +18,7 @@ PresetButton::PresetButton(const LineWidthPreset& preset, QWidget& parent)
     , m_thickness(preset.height) {
     setFixedSize(sizeHint());
     setAttribute(Qt::WA_Hover);
+    setFocusPolicy(Qt::TabFocus);
     setAccessibleName(tr("%1 points").arg(m_thickness));
 }
 

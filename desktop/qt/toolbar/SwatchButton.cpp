@@ -36,6 +36,7 @@ SwatchButton::SwatchButton(const ColorSwatchView& face, QWidget& parent)
     , m_face(face) {
     setFixedSize(sizeHint());
     setAttribute(Qt::WA_Hover);
+    setFocusPolicy(Qt::TabFocus);
     setAccessibleName(QString::fromStdString(colorHex(face.color)));
     setCheckable(face.isSelected);
     setChecked(face.isSelected);

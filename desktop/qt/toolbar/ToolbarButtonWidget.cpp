@@ -1,12 +1,16 @@
 #include "desktop/qt/toolbar/ToolbarButtonWidget.h"
 
 #include "desktop/qt/Appearance.h"
+#include "desktop/qt/PopupWatch.h"
 #include "desktop/qt/QtConversions.h"
 
+#include <QCursor>
 #include <QFocusEvent>
+#include <QGuiApplication>
 #include <QKeySequence>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScreen>
 #include <QShortcut>
 #include <QTimerEvent>
 #include <QtMath>
@@ -20,6 +24,8 @@ namespace {
 constexpr int kFrameMilliseconds = 16;
 /// From the panel's edge to the menu, in points.
 constexpr int kMenuDistance = 6;
+/// Between the caption and the sides, where the focus shows.
+constexpr qreal kCaptionMargin = 3;
 /// In percent of a font's own width.
 constexpr int kNarrowest = 75;
 
@@ -34,7 +40,7 @@ ToolbarButtonWidget::ToolbarButtonWidget(PaletteControl control, QWidget& parent
     setFixedSize(sizeHint());
     connect(this, &QAbstractButton::clicked, this, [this] {
         if (m_control.menu) {
-            showMenu();
+            showMenu(OpenedBy::keyboard);
         } else {
             m_control.button.action();
         }
@@ -69,6 +75,8 @@ void ToolbarButtonWidget::follow(PaletteControl control) {
         key->setEnabled(isEnabled());
     }
     setAccessibleName(QString::fromStdString(m_control.button.label));
+    setCheckable(m_control.button.isSelected);
+    setChecked(m_control.button.isSelected);
     if (m_menu && m_control.menu) {
         m_menu->follow(*m_control.menu);
     }
@@ -79,11 +87,32 @@ QSize ToolbarButtonWidget::sizeHint() const {
     return QSizeF(ToolbarButton::frame.width, ToolbarButton::frame.height).toSize();
 }
 
-void ToolbarButtonWidget::showMenu() {
+void ToolbarButtonWidget::showMenu(OpenedBy by) {
     m_menu = std::make_unique<PaletteMenuWidget>(*m_control.menu, *this);
-    connect(m_menu.get(), &QMenu::aboutToHide, this, [this] { release(); });
-    const int belowPanel = height() + static_cast<int>(PaletteRow::verticalPadding) + kMenuDistance;
-    m_menu->popup(mapToGlobal(QPoint(0, belowPanel)));
+    connect(m_menu.get(), &QMenu::aboutToHide, this, [this] { menuClosed(); });
+    m_menu->popup(menuPlace());
+    if (by == OpenedBy::keyboard) {
+        m_menu->startWithKeyboard();
+    }
+}
+
+QPoint ToolbarButtonWidget::menuPlace() const {
+    const int distance = qRound(PaletteRow::verticalPadding) + kMenuDistance;
+    const int menuHeight = m_menu->sizeHint().height();
+    const QPoint below = mapToGlobal(QPoint(0, height() + distance));
+    const QPoint above = mapToGlobal(QPoint(0, -distance - menuHeight));
+    const QScreen* at = QGuiApplication::screenAt(mapToGlobal(rect().center()));
+    const QRect area = (at ? at : screen())->geometry();
+    const bool hasRoomBelow = below.y() + menuHeight <= area.y() + area.height();
+    return hasRoomBelow || above.y() < area.y() ? below : above;
+}
+
+void ToolbarButtonWidget::menuClosed() {
+    release();
+    if (m_isPointerInside && !rect().contains(mapFromGlobal(QCursor::pos()))) {
+        m_isPointerInside = false;
+        m_control.onHover(false);
+    }
 }
 
 // The press.
@@ -94,7 +123,7 @@ void ToolbarButtonWidget::mousePressEvent(QMouseEvent* event) {
     } else if (event->button() == Qt::LeftButton) {
         press();
         if (m_control.menu) {
-            showMenu();
+            showMenu(OpenedBy::pointer);
         } else {
             QAbstractButton::mousePressEvent(event);
         }
@@ -149,22 +178,33 @@ void ToolbarButtonWidget::timerEvent(QTimerEvent* event) {
 }
 
 void ToolbarButtonWidget::enterEvent(QEnterEvent* /*event*/) {
-    m_control.onHover(true);
+    if (!std::exchange(m_isPointerInside, true)) {
+        m_control.onHover(true);
+    }
 }
 
 void ToolbarButtonWidget::leaveEvent(QEvent* /*event*/) {
+    if (m_menu && m_menu->isVisible()) {
+        return;
+    }
+    m_isPointerInside = false;
     m_control.onHover(false);
 }
 
 void ToolbarButtonWidget::focusInEvent(QFocusEvent* event) {
-    m_showsFocus = event->reason() == Qt::TabFocusReason ||
-                   event->reason() == Qt::BacktabFocusReason ||
-                   event->reason() == Qt::OtherFocusReason;
+    // A menu that closes gives the keyboard back as it was.
+    if (event->reason() != Qt::PopupFocusReason) {
+        m_showsFocus = event->reason() == Qt::TabFocusReason ||
+                       event->reason() == Qt::BacktabFocusReason ||
+                       event->reason() == Qt::OtherFocusReason;
+    }
     QAbstractButton::focusInEvent(event);
 }
 
 void ToolbarButtonWidget::focusOutEvent(QFocusEvent* event) {
-    m_showsFocus = false;
+    if (!PopupWatch::isPopupOpen()) {
+        m_showsFocus = false;
+    }
     QAbstractButton::focusOutEvent(event);
 }
 
@@ -219,7 +259,7 @@ QFont ToolbarButtonWidget::captionFont(const QString& caption) const {
     font.setWeight(QFont::Medium);
     // A wide font is drawn narrower rather than cut off.
     const qreal width = QFontMetricsF(font).horizontalAdvance(caption);
-    const qreal room = QRectF(rect()).width() - 2;
+    const qreal room = QRectF(rect()).width() - 2 * kCaptionMargin;
     if (width > room) {
         font.setStretch(qMax(qFloor(100 * room / width), kNarrowest));
     }

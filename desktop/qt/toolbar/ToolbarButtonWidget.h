@@ -17,6 +17,9 @@ namespace quillon::desktop {
 
 /// A button of the palette on the screen. One with a menu opens it at the press, and runs its own
 /// action by the secondary button; any other runs its action by a click.
+///
+/// While its menu is open the button neither loses nor regains the pointer, though the toolkit says
+/// so; where the pointer is then comes to be known when the menu closes.
 class ToolbarButtonWidget : public QAbstractButton {
 public:
     ToolbarButtonWidget(PaletteControl control, QWidget& parent);
@@ -24,6 +27,8 @@ public:
 
     /// Takes over a newer description of the same control.
     void follow(PaletteControl control);
+
+    bool hasMenu() const { return m_control.menu.has_value(); }
 
     QSize sizeHint() const override;
 
@@ -40,7 +45,10 @@ protected:
 
 private:
     void addKeys();
-    void showMenu();
+    enum class OpenedBy { pointer, keyboard };
+    void showMenu(OpenedBy by);
+    QPoint menuPlace() const;
+    void menuClosed();
     void press();
     void release();
     void followPress();
@@ -56,6 +64,7 @@ private:
     QBasicTimer m_frames;
     /// The keyboard was brought here with keys, and not by the window system.
     bool m_showsFocus = false;
+    bool m_isPointerInside = false;
 };
 
 } // namespace quillon::desktop
