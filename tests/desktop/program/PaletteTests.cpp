@@ -6,6 +6,11 @@ namespace {
 /// The palette in the middle of the screen, away from its menus' surroundings.
 class Palette : public ProgramTest {
 protected:
+    explicit Palette(const VirtualDesktop::Options& options = {.width = 900, .height = 600})
+        : ProgramTest(options) {
+        preparePalette();
+    }
+
     static constexpr Pixel kCenter{450, 120};
     // The controls' centres, from the palette's.
     static constexpr int kTool = -192;
@@ -18,7 +23,7 @@ protected:
     /// Between two controls, where there is nothing but the body.
     static constexpr int kBody = -92;
 
-    Palette() {
+    void preparePalette() {
         prepare([](AppSettings& settings) {
             settings.selectedTool = DrawingTool::pen;
             settings.selectedColor = Color(1, 0, 0);
@@ -241,6 +246,103 @@ TEST_F(Palette, it_goes_away_with_an_open_menu_and_an_open_popover) {
     ASSERT_TRUE(showsPanel({kCenter.x - 120, 400}));
     program->process().sendSignal(SIGTERM);
     EXPECT_EQ(program->process().waitForExit(), 0);
+}
+
+class PaletteWhileOpen : public Palette, public testing::WithParamInterface<int> {};
+
+TEST_P(PaletteWhileOpen, the_shortcut_takes_it_away_with_its_menu_or_its_popover) {
+    startWithPalette();
+    const bool opensPopover = GetParam() == 3;
+    const Pixel inside = opensPopover ? Pixel{kCenter.x - 120, 400}
+                                      : Pixel{kCenter.x + kColor + 100, kCenter.y + 40};
+    input.click(at(kColor), GetParam());
+    ASSERT_TRUE(showsPanel(inside));
+    toggleAnnotation();
+    EXPECT_TRUE(showsBackground(inside));
+    EXPECT_TRUE(showsBackground(at(kBody)));
+    toggleAnnotation();
+    ASSERT_TRUE(showsPanel(at(kBody)));
+    drawLine();
+}
+
+INSTANTIATE_TEST_SUITE_P(MenuAndPopover, PaletteWhileOpen, testing::Values(1, 3));
+
+TEST_F(Palette, a_quick_colour_is_removed_by_its_context_menu_and_the_popover_stays) {
+    startWithPalette();
+    input.click(at(kColor), 3);
+    const Pixel first{kCenter.x - 112, 494};
+    ASSERT_TRUE(screen.waitForColor(first, {255, 59, 48}));
+    input.click(first, 3);
+    const Pixel remove{first.x + 20, first.y + 18};
+    ASSERT_TRUE(showsPanel({first.x + 8, first.y + 8}));
+    input.click(remove);
+    EXPECT_TRUE(screen.waitForColor(first, {255, 204, 0}));
+    input.tap("Escape");
+    EXPECT_TRUE(showsBackground(first));
+    stop();
+    EXPECT_EQ(stored<std::size_t>([](AppSettings& s) { return s.quickColors.get().size(); }), 4U);
+}
+
+TEST_F(Palette, the_shortcut_takes_it_away_with_the_context_menu_of_a_quick_colour) {
+    startWithPalette();
+    input.click(at(kColor), 3);
+    ASSERT_TRUE(showsPanel({kCenter.x - 120, 400}));
+    // The first of the quick colours.
+    const Pixel red{kCenter.x - 112, 494};
+    ASSERT_TRUE(screen.waitForColor(red, {255, 59, 48}));
+    input.click(red, 3);
+    ASSERT_TRUE(showsPanel({red.x + 20, red.y + 20}));
+    toggleAnnotation();
+    EXPECT_TRUE(showsBackground(red));
+    EXPECT_TRUE(showsBackground(at(kBody)));
+    toggleAnnotation();
+    ASSERT_TRUE(showsPanel(at(kBody)));
+    drawLine();
+}
+
+/// On a desktop where no window can be translucent, the overlay holds the pointer as a whole.
+class PaletteWithoutCompositor : public Palette {
+protected:
+    PaletteWithoutCompositor()
+        : Palette({.width = 900, .height = 600, .hasCompositor = false}) {}
+
+    void startWithPalette() {
+        start();
+        toggleAnnotation();
+        ASSERT_TRUE(showsPanel(at(kBody)));
+        ASSERT_TRUE(eventually([this] {
+            input.drag({{100, 500}, {300, 500}});
+            return showsInk({200, 500});
+        }));
+    }
+};
+
+TEST_F(PaletteWithoutCompositor, drawing_goes_on_after_a_menu_and_after_the_popover) {
+    startWithPalette();
+    input.click(at(kTool));
+    ASSERT_TRUE(showsPanel(entry(kTool, 4)));
+    input.click(entry(kTool, 0));
+    ASSERT_TRUE(showsBackground(entry(kTool, 4)));
+    input.drag({{100, 400}, {300, 400}});
+    EXPECT_TRUE(showsInk({200, 400}));
+
+    input.click(at(kColor), 3);
+    ASSERT_TRUE(showsPanel({kCenter.x - 120, 400}));
+    input.tap("Escape");
+    ASSERT_TRUE(showsBackground({kCenter.x - 120, 440}));
+    const int before = below.pressCount();
+    input.drag({{100, 450}, {300, 450}});
+    EXPECT_TRUE(showsInk({200, 450}));
+    EXPECT_EQ(below.pressCount(), before);
+}
+
+TEST_F(PaletteWithoutCompositor, nothing_but_the_palette_itself_is_to_be_seen_of_it) {
+    startWithPalette();
+    // Beside a divider; a translucent panel would be darkened.
+    EXPECT_GT(screen.pixel({kCenter.x + kBody + 4, kCenter.y}).red, 240);
+    // Where elsewhere its shadow falls, and in its rounded corner.
+    EXPECT_TRUE(showsBackground({kCenter.x, kCenter.y + 34}));
+    EXPECT_TRUE(showsBackground({kCenter.x - 228, kCenter.y - 29}));
 }
 
 } // namespace
