@@ -43,6 +43,11 @@ TEST_F(About, without_any_picture_the_page_stands_all_the_same) {
     EXPECT_EQ(page().lines.size(), 3U);
 }
 
+TEST(AboutPage, its_parts_stand_further_apart_than_its_facts) {
+    EXPECT_EQ(AboutPage::spacing, 24);
+    EXPECT_EQ(AboutPage::lineSpacing, 8);
+}
+
 TEST(ColorPickerRow, it_is_a_circle_with_a_thin_ring) {
     EXPECT_EQ(ColorPickerRow::circleSize, (CGSize{24, 24}));
     EXPECT_EQ(ColorPickerRow::ringWidth, 1);

@@ -101,6 +101,7 @@ TEST_F(CursorSettings, a_turn_of_the_manager_is_announced) {
 TEST_F(CursorSettings, the_shapes_are_offered_by_their_names) {
     open();
     const auto shapes = row<PickerRow>(0, 1);
+    EXPECT_EQ(shapes.style, PickerStyle::automatic);
     EXPECT_EQ(shapes.entries, (Outline{"Ring", "Squircle", "Rhombus"}));
     shapes.select(2);
     EXPECT_EQ(settings().haloShape.get(), HaloShape::rhombus);
@@ -130,6 +131,7 @@ TEST_F(CursorSettings, the_color_is_only_shown) {
 TEST_F(CursorSettings, the_animations_are_offered_with_a_capital) {
     open();
     const auto animations = row<PickerRow>(1, 0);
+    EXPECT_EQ(animations.style, PickerStyle::automatic);
     EXPECT_EQ(animations.entries, (Outline{"Pulse", "Ripple", "None"}));
     animations.select(1);
     EXPECT_EQ(settings().clickAnimationType.get(), ClickAnimationType::ripple);

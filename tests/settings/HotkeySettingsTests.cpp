@@ -64,6 +64,13 @@ TEST_F(HotkeySettings, an_action_with_a_binding_shows_it_and_can_be_cleared) {
     EXPECT_EQ(row.clear, Clear::enabled);
 }
 
+TEST_F(HotkeySettings, a_binding_stands_on_a_faint_capsule_and_its_button_says_clear) {
+    EXPECT_EQ(ShortcutRow::capsulePaddingX, 8);
+    EXPECT_EQ(ShortcutRow::capsulePaddingY, 4);
+    EXPECT_EQ(ShortcutRow::capsuleOpacity, 0.15);
+    EXPECT_STREQ(ShortcutRow::clearTitle, "Clear");
+}
+
 TEST_F(HotkeySettings, an_action_without_a_binding_shows_that_and_has_nothing_to_clear) {
     const auto row = state(HotkeyAction::undo);
     EXPECT_FALSE(row.binding);
@@ -229,6 +236,40 @@ TEST_F(HotkeySettings, leaving_the_tab_without_a_recording_registers_nothing_ane
     const auto ids = hotkeyManager.hotkeyIDCounter();
     view.select(SettingsTab::about);
     EXPECT_EQ(hotkeyManager.hotkeyIDCounter(), ids);
+}
+
+TEST_F(HotkeySettings, the_shortcuts_are_out_of_service_before_the_row_records) {
+    std::vector<std::size_t> counts;
+    const auto observed = view.objectWillChange.sink([&] { counts.push_back(liveCount()); });
+    begin(HotkeyAction::undo);
+    EXPECT_EQ(counts, std::vector<std::size_t>{0});
+}
+
+TEST_F(HotkeySettings, a_cancelled_row_stops_recording_before_the_shortcuts_come_back) {
+    begin(HotkeyAction::undo);
+    std::vector<std::size_t> counts;
+    const auto observed = view.objectWillChange.sink([&] { counts.push_back(liveCount()); });
+    state(HotkeyAction::undo).recorder.onCancel();
+    EXPECT_EQ(counts, std::vector<std::size_t>{0});
+    EXPECT_EQ(liveCount(), 6U);
+}
+
+TEST_F(HotkeySettings, after_a_refusal_the_row_stops_the_shortcuts_come_back_and_the_alert_opens) {
+    const auto other = *binding(HotkeyAction::toggleWhiteboard);
+    begin(HotkeyAction::undo);
+    std::vector<std::size_t> counts;
+    const auto observed = view.objectWillChange.sink([&] { counts.push_back(liveCount()); });
+    state(HotkeyAction::undo).recorder.onCapture(other.keyCode, other.modifiers);
+    EXPECT_EQ(counts, (std::vector<std::size_t>{0, 6}));
+}
+
+TEST_F(HotkeySettings, a_captured_shortcut_is_stored_before_the_row_stops_recording) {
+    begin(HotkeyAction::undo);
+    std::vector<bool> isBound;
+    const auto observed = view.objectWillChange.sink(
+        [&] { isBound.push_back(binding(HotkeyAction::undo).has_value()); });
+    state(HotkeyAction::undo).recorder.onCapture(6, controlKey);
+    EXPECT_EQ(isBound, (std::vector<bool>{false, true}));
 }
 
 TEST_F(HotkeySettings, every_step_of_a_recording_is_announced) {

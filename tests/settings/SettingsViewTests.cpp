@@ -52,6 +52,14 @@ TEST_F(SettingsViewTest, the_strip_marks_the_selected_tab_alone) {
     }
 }
 
+TEST(TabButton, the_symbol_stands_above_the_smaller_label_with_room_around_both) {
+    EXPECT_EQ(TabButton::spacing, 4);
+    EXPECT_EQ(TabButton::symbolFontSize, 16);
+    EXPECT_EQ(TabButton::textFontSize, 11);
+    EXPECT_EQ(TabButton::verticalPadding, 10);
+    EXPECT_EQ(TabButton::selectedGroundOpacity, 0.15);
+}
+
 TEST_F(SettingsViewTest, each_tab_shows_its_own_page) {
     const auto title = [this](SettingsTab tab) {
         view.select(tab);

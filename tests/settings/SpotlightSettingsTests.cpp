@@ -98,6 +98,7 @@ TEST_F(SpotlightSettings, each_slider_writes_its_own_setting) {
 TEST_F(SpotlightSettings, the_magnifications_are_offered_by_their_names) {
     open();
     const auto magnification = row<PickerRow>(1, 1);
+    EXPECT_EQ(magnification.style, PickerStyle::automatic);
     EXPECT_EQ(magnification.entries, (Outline{"1.5x", "2x", "4x", "8x"}));
     EXPECT_EQ(magnification.selection(), 1U);
     magnification.select(3);
@@ -137,6 +138,8 @@ TEST_F(SpotlightSettings, stored_switches_take_effect_when_it_opens_the_spotligh
 
 TEST_F(SpotlightSettings, the_switches_turn_the_manager_and_the_store_follows) {
     open();
+    EXPECT_EQ(row<ToggleRow>(0, 0).style, ToggleStyle::switchStyle);
+    EXPECT_EQ(row<ToggleRow>(1, 0).style, ToggleStyle::switchStyle);
     row<ToggleRow>(0, 0).isOn.set(true);
     EXPECT_TRUE(manager.isSpotlightEnabled);
     EXPECT_TRUE(settings().isSpotlightEnabled);

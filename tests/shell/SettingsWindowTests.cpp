@@ -80,6 +80,7 @@ TEST_F(SettingsWindow, every_opening_brings_the_program_to_the_front) {
     EXPECT_EQ(host.application.activations, 1);
     open();
     EXPECT_EQ(host.application.activations, 2);
+    EXPECT_TRUE(host.application.ignoredOtherApps);
 }
 
 TEST_F(SettingsWindow, a_second_opening_brings_the_same_window_to_the_front) {

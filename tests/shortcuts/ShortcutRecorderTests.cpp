@@ -69,6 +69,11 @@ TEST_F(ShortcutRecorder, the_view_pushes_all_its_members_into_the_control) {
                  control->onRequireModifier);
 }
 
+TEST_F(ShortcutRecorder, it_is_a_rounded_rectangle_with_a_small_label) {
+    EXPECT_EQ(ShortcutRecorderControl::cornerRadius, 6);
+    EXPECT_EQ(ShortcutRecorderControl::TitleField::fontSize, 12);
+}
+
 TEST_F(ShortcutRecorder, the_title_is_what_the_label_shows) {
     control->setTitle("Press shortcut…");
     EXPECT_EQ(control->titleField().stringValue, "Press shortcut…");
