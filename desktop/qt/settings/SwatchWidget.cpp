@@ -30,8 +30,12 @@ void paintChecks(QPainter& painter, const QRect& area) {
     }
 }
 
+/// In double precision: single falls short of the hundredths and of the steps of 255 that the
+/// palette shows truncated.
 Color fromQColor(const QColor& color) {
-    return {color.redF(), color.greenF(), color.blueF(), color.alphaF()};
+    const QRgba64 parts = color.rgba64();
+    const auto part = [](quint16 value) { return value / 65535.0; };
+    return {part(parts.red()), part(parts.green()), part(parts.blue()), part(parts.alpha())};
 }
 
 } // namespace

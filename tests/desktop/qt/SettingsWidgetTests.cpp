@@ -1,64 +1,16 @@
-#include "desktop/qt/settings/SettingsWidget.h"
+#include "desktop/qt/SettingsLaidOut.h"
 
-#include "support/FakeHost.h"
-
-#include <gtest/gtest.h>
-
-#include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QFontMetrics>
 #include <QLabel>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSlider>
 
-#include <memory>
-
 namespace quillon::test {
 
-using namespace desktop;
-
 namespace {
-
-/// The settings on a host of fakes, laid out in the size that the window gives them.
-struct SettingsLaidOut : testing::Test {
-    SettingsLaidOut() {
-        widget = std::make_unique<SettingsWidget>(
-            view, [](const QKeyEvent&) { return std::optional<KeyEvent>(); });
-        widget->resize(600, 500);
-        widget->show();
-        turn();
-    }
-
-    /// Lets what is pending run.
-    static void turn() {
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::processEvents();
-    }
-    void show(SettingsTab tab) {
-        control<QAbstractButton>(
-            QString::fromUtf8(rawValue(tab).data(), static_cast<qsizetype>(rawValue(tab).size())))
-            ->click();
-        turn();
-    }
-    template <typename Control>
-    Control* control(const QString& name) {
-        for (auto* candidate : widget->findChildren<Control*>()) {
-            if (candidate->accessibleName() == name) {
-                return candidate;
-            }
-        }
-        ADD_FAILURE() << "there is no " << name.toStdString();
-        return nullptr;
-    }
-    AppSettings& settings() { return AppSettings::shared(); }
-
-    FakeHost host;
-    SettingsView view;
-    std::unique_ptr<SettingsWidget> widget;
-};
 
 constexpr auto kTabs = allCases<SettingsTab>();
 
