@@ -12,6 +12,8 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace quillon::desktop {
 
 namespace {
@@ -24,6 +26,15 @@ QIcon programIcon() {
     const Image glyph{Image::Kind::symbol, "pencil.and.outline", {}, {}};
     return QIcon::fromTheme(QStringLiteral("quillon-mark"),
                             QtImages::icon(glyph, SymbolTint::panel));
+}
+
+/// A window that is higher than its screen sticks out at the bottom, not with its title.
+QRect withTitleInReach(QRect frame) {
+    const QScreen* under = QGuiApplication::screenAt(frame.center());
+    if (const QScreen* screen = under ? under : QGuiApplication::primaryScreen()) {
+        frame.moveTop(std::max(frame.top(), screen->availableGeometry().top()));
+    }
+    return frame;
 }
 
 Qt::WindowFlags flagsOf(const Window& window) {
@@ -94,7 +105,7 @@ void QtTitledWindow::setFrame(const CGRect& frame) {
     const QScreen* primary = QGuiApplication::primaryScreen();
     const QRectF primaryGeometry = primary ? primary->geometry() : QRectF();
     const QRect content = desktopFromGlobal(frame, primaryGeometry).toAlignedRect();
-    const QRect whole = content.adjusted(0, -m_headerHeight, 0, 0);
+    const QRect whole = withTitleInReach(content.adjusted(0, -m_headerHeight, 0, 0));
     if (contains(m_window.styleMask(), WindowStyleMask::resizable)) {
         m_widget->resize(whole.size());
     } else {

@@ -15,7 +15,9 @@ protected:
     enum Tab { general, annotation, cursor, spotlight, shortcuts, about };
 
     SettingsTest()
-        : ProgramTest({.width = 1000, .height = 800}) {
+        : SettingsTest({.width = 1000, .height = 800}) {}
+    explicit SettingsTest(const VirtualDesktop::Options& options)
+        : ProgramTest(options) {
         below.activate();
         EXPECT_TRUE(eventually([this] { return below.hasKeyboard(); }));
     }
@@ -36,7 +38,7 @@ protected:
         window = titled(kTitle).front();
         ASSERT_TRUE(eventually([this] { return desktop.connection().focusedWindow() == window; }));
         locate();
-        ASSERT_TRUE(screen.waitForPixel(at({300, 450}), isPage));
+        ASSERT_TRUE(screen.waitForPixel(at({300, 400}), isPage));
         ASSERT_TRUE(screen.waitForPixel(tabGround(general), isSelected));
     }
     void closeWindow() {

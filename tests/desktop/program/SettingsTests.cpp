@@ -5,6 +5,13 @@ namespace {
 
 class SettingsOnScreen : public SettingsTest {};
 
+/// Too low for the window.
+class SettingsOnALowScreen : public SettingsTest {
+protected:
+    SettingsOnALowScreen()
+        : SettingsTest({.width = 1000, .height = 480}) {}
+};
+
 TEST_F(SettingsOnScreen, a_second_start_opens_it_and_a_third_brings_it_to_the_front) {
     startAndOpen();
     EXPECT_EQ(width, 600);
@@ -45,6 +52,14 @@ TEST_F(SettingsOnScreen, it_cannot_be_resized_and_stays_above_other_windows) {
     EXPECT_NE(std::find(states.begin(), states.end(), connection.atom("_NET_WM_STATE_ABOVE")),
               states.end());
     EXPECT_EQ(connection.text(window, "WM_CLASS").find("quillon-mark"), 0U);
+}
+
+TEST_F(SettingsOnALowScreen, the_title_and_the_tabs_stay_in_reach) {
+    startAndOpen();
+    ASSERT_TRUE(eventually([this] { return titled(kTitle).size() == 1; }));
+    EXPECT_GE(at({0, 0}).y, height - 500);
+    showTab(about);
+    closeWindow();
 }
 
 TEST_F(SettingsOnScreen, a_closed_window_is_gone_and_a_fresh_one_opens_on_the_first_tab) {
