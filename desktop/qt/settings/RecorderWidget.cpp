@@ -30,7 +30,12 @@ RecorderWidget::RecorderWidget(const ShortcutRecorderView& view, KeyReader readK
         ShortcutRecorderControl::accessibilityLabel.data(),
         static_cast<qsizetype>(ShortcutRecorderControl::accessibilityLabel.size())));
     m_control->makeFirstResponder = [this] { setFocus(Qt::MouseFocusReason); };
-    connect(this, &QAbstractButton::clicked, this, [this] { m_control->mouseDown(); });
+    connect(this, &QAbstractButton::clicked, this, [this] {
+        // An assistive tool reaches no more than the pointer does.
+        if (!testAttribute(Qt::WA_TransparentForMouseEvents)) {
+            m_control->mouseDown();
+        }
+    });
     m_control->setNeedsDisplay = [this] { update(); };
 }
 

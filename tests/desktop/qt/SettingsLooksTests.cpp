@@ -155,6 +155,19 @@ TEST_F(SettingsLooks, a_recording_shows_in_its_title_and_ends_with_the_new_short
     EXPECT_FALSE(alert());
 }
 
+TEST_F(SettingsLooks, an_assistive_tool_begins_a_recording_but_no_second_one) {
+    show(SettingsTab::hotkeys);
+    recorder("Undo")->click();
+    turn();
+    recorder("Redo")->click();
+    turn();
+    key = KeyEvent{40, NSEventModifierFlags::control, false};
+    QTest::keyClick(recorder("Redo"), Qt::Key_K);
+    EXPECT_FALSE(settings().hotkeys->contains(HotkeyAction::redo));
+    QTest::keyClick(recorder("Undo"), Qt::Key_K);
+    EXPECT_TRUE(settings().hotkeys->contains(HotkeyAction::undo));
+}
+
 TEST_F(SettingsLooks, a_key_while_no_row_records_goes_no_further) {
     show(SettingsTab::hotkeys);
     auto* undo = recorder("Undo");
