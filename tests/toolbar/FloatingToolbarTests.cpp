@@ -167,6 +167,9 @@ TEST_F(FloatingToolbar, the_slider_and_the_presets_set_the_width) {
     EXPECT_EQ(menu.slider.maximum, 30);
     EXPECT_EQ(menu.slider.step, 1);
     EXPECT_EQ(menu.slider.accessibilityLabel, "Line Width");
+    EXPECT_EQ(menu.slider.width, 150);
+    EXPECT_EQ(menu.slider.minimumIcon, "lineweight");
+    EXPECT_EQ(menu.slider.maximumIcon, "lineweight");
     menu.slider.value.set(17);
     EXPECT_EQ(lineWidth, 17);
 
