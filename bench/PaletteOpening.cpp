@@ -1,0 +1,108 @@
+// How long the palette's menus and its popover take from the press to their first picture.
+//
+//     palette-opening [--times 20]
+
+#include "bench/Statistics.h"
+
+#include "desktop/support/InputDriver.h"
+#include "desktop/support/Program.h"
+#include "desktop/support/ScreenReader.h"
+#include "desktop/support/StoredSettings.h"
+#include "desktop/support/VirtualDesktop.h"
+
+#include <chrono>
+#include <exception>
+#include <iostream>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace quillon::bench {
+namespace {
+
+using test::Pixel;
+using test::Rgb;
+
+constexpr Pixel kPalette{960, 110};
+/// Below the palette, where every menu and the popover show nothing but their panel.
+constexpr int kPanelY = 154;
+
+bool isLight(Rgb color) {
+    return color.red > 190 && color.green > 190 && color.blue > 190;
+}
+
+class OpenedPalette {
+public:
+    explicit OpenedPalette(test::VirtualDesktop& desktop)
+        : m_desktop(desktop) {
+        test::withStoredSettings(desktop.configFolder(), [](AppSettings& settings) {
+            settings.toolbarPosition = ToolbarPosition{kPalette.x, kPalette.y};
+        });
+        m_program = std::make_unique<test::Program>(desktop);
+        m_input.chord({"Super_L", "Shift_L", "s"});
+        if (!m_screen.waitForPixel({kPalette.x - 92, kPalette.y + 20}, isLight)) {
+            throw std::runtime_error("the palette does not appear");
+        }
+    }
+
+    /// Milliseconds from the press on a control to the panel at `place`, which is then closed.
+    double open(int control, int button, Pixel place) {
+        m_input.moveTo({kPalette.x + control, kPalette.y});
+        settle();
+        const auto start = std::chrono::steady_clock::now();
+        m_input.press(button);
+        if (!m_screen.waitForPixel(place, isLight)) {
+            throw std::runtime_error("nothing opens");
+        }
+        const std::chrono::duration<double, std::milli> time =
+            std::chrono::steady_clock::now() - start;
+        m_input.release(button);
+        m_input.tap("Escape");
+        m_screen.waitForPixel(place, [](Rgb color) { return !isLight(color); });
+        settle();
+        return time.count();
+    }
+
+private:
+    static void settle() {
+        test::stays([] { return true; }, std::chrono::milliseconds(150));
+    }
+
+    test::VirtualDesktop& m_desktop;
+    test::InputDriver m_input{m_desktop.connection()};
+    test::ScreenReader m_screen{m_desktop.connection()};
+    std::unique_ptr<test::Program> m_program;
+};
+
+void measure(OpenedPalette& palette, const std::string& name, int times, int control, int button,
+             Pixel place) {
+    Samples opening;
+    for (int time = 0; time < times; ++time) {
+        opening.add(palette.open(control, button, place));
+    }
+    std::cout << row({name, std::to_string(opening.count()), fixed(opening.percentile(50), 1),
+                      fixed(opening.percentile(100), 1)});
+}
+
+} // namespace
+} // namespace quillon::bench
+
+int main(int count, char** arguments) {
+    using namespace quillon::bench;
+    try {
+        const std::vector<std::string> options(arguments + 1, arguments + count);
+        const int times = option(options, "--times", 20);
+        quillon::test::VirtualDesktop desktop(quillon::test::VirtualDesktop::Options{});
+        OpenedPalette palette(desktop);
+        std::cout << head({"press → picture", "times", "p50 ms", "longest ms"});
+        measure(palette, "tools", times, -192, 1, {kPalette.x - 192 + 60, kPanelY});
+        measure(palette, "colours", times, -125, 1, {kPalette.x - 125 + 180, kPanelY});
+        measure(palette, "widths", times, -58, 1, {kPalette.x - 58 + 120, kPanelY});
+        measure(palette, "any colour", times, -125, 3, {kPalette.x + 120, kPanelY + 6});
+        return 0;
+    } catch (const std::exception& error) {
+        std::cerr << "palette-opening: " << error.what() << '\n';
+        return 1;
+    }
+}
