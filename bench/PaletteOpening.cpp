@@ -1,4 +1,5 @@
-// How long the palette's menus and its popover take from the press to their first picture.
+// How long the palette's menus and its popover take from the press to their first picture, and how
+// soon the palette follows a drag.
 //
 //     palette-opening [--times 20]
 
@@ -55,18 +56,45 @@ public:
         if (!m_screen.waitForPixel(place, isLight)) {
             throw std::runtime_error("nothing opens");
         }
-        const std::chrono::duration<double, std::milli> time =
-            std::chrono::steady_clock::now() - start;
+        const double time = millisecondsSince(start);
         m_input.release(button);
         m_input.tap("Escape");
         m_screen.waitForPixel(place, [](Rgb color) { return !isLight(color); });
         settle();
-        return time.count();
+        return time;
+    }
+
+    /// Milliseconds from each motion of a drag to the palette's edge in its new place.
+    Samples drag(int steps) {
+        Samples following;
+        Pixel pointer{kPalette.x - 92, kPalette.y + 20};
+        m_input.moveTo(pointer);
+        m_input.press();
+        for (int step = 0; step < steps; ++step) {
+            pointer = {500 + 12 * step, 500};
+            const auto start = std::chrono::steady_clock::now();
+            m_input.moveTo(pointer);
+            // The panel's centre goes to the pointer.
+            if (!m_screen.waitForPixel({pointer.x + 222, pointer.y + 20}, isLight)) {
+                throw std::runtime_error("the palette does not follow");
+            }
+            following.add(millisecondsSince(start));
+            settle(20);
+        }
+        m_input.release();
+        return following;
     }
 
 private:
-    static void settle() {
-        test::stays([] { return true; }, std::chrono::milliseconds(150));
+    using Instant = std::chrono::steady_clock::time_point;
+
+    static double millisecondsSince(Instant start) {
+        const std::chrono::duration<double, std::milli> time =
+            std::chrono::steady_clock::now() - start;
+        return time.count();
+    }
+    static void settle(int milliseconds = 150) {
+        test::stays([] { return true; }, std::chrono::milliseconds(milliseconds));
     }
 
     test::VirtualDesktop& m_desktop;
@@ -75,14 +103,18 @@ private:
     std::unique_ptr<test::Program> m_program;
 };
 
+void print(const std::string& name, const Samples& samples) {
+    std::cout << row({name, std::to_string(samples.count()), fixed(samples.percentile(50), 1),
+                      fixed(samples.percentile(100), 1)});
+}
+
 void measure(OpenedPalette& palette, const std::string& name, int times, int control, int button,
              Pixel place) {
     Samples opening;
     for (int time = 0; time < times; ++time) {
         opening.add(palette.open(control, button, place));
     }
-    std::cout << row({name, std::to_string(opening.count()), fixed(opening.percentile(50), 1),
-                      fixed(opening.percentile(100), 1)});
+    print(name, opening);
 }
 
 } // namespace
@@ -100,6 +132,7 @@ int main(int count, char** arguments) {
         measure(palette, "colours", times, -125, 1, {kPalette.x - 125 + 180, kPanelY});
         measure(palette, "widths", times, -58, 1, {kPalette.x - 58 + 120, kPanelY});
         measure(palette, "any colour", times, -125, 3, {kPalette.x + 120, kPanelY + 6});
+        print("a motion of a drag", palette.drag(50));
         return 0;
     } catch (const std::exception& error) {
         std::cerr << "palette-opening: " << error.what() << '\n';
