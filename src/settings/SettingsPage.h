@@ -20,7 +20,7 @@ public:
     virtual PageContent content() = 0;
     /// The page has come on screen.
     virtual void onAppear() {}
-    /// The page leaves the screen, and does not come back.
+    /// The page leaves the screen. It comes back at once when the settings are reset, else never.
     virtual void onDisappear() {}
 };
 

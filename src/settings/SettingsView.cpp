@@ -72,7 +72,9 @@ void SettingsView::leavePage() {
 }
 
 void SettingsView::resetToDefaults() {
+    leavePage();
     m_appSettings.resetToDefaults();
+    m_page->onAppear();
 }
 
 } // namespace quillon

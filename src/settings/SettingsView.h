@@ -32,6 +32,10 @@ struct ToolbarItem {
 /// Every control edits the store or a manager as it is moved; nothing is kept here, and there is no
 /// apply step. `objectWillChange` is sent before anything changes that a page may show: whoever
 /// shows it looks again in a later turn, and finds the same page unless the tab is another one.
+///
+/// A reset is to the page on show as if it came on screen anew: there the store wins over the
+/// managers, so that its switches show their defaults too and what they switch goes off; a
+/// recording ends. A halo, spotlight or lens whose tab is not on show runs on until it is.
 class SettingsView : public ControlsView, public ObservableObject {
 public:
     static constexpr CGSize minimumContentSize{500, 400};

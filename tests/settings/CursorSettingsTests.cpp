@@ -90,6 +90,28 @@ TEST_F(CursorSettings, the_store_does_not_follow_after_the_window_has_closed) {
     EXPECT_FALSE(settings().isCursorHaloEnabled);
 }
 
+TEST_F(CursorSettings, a_reset_switches_the_manager_off_and_its_switch_goes_on_leading) {
+    open();
+    const auto toggle = enable();
+    toggle.isOn.set(true);
+    view.toolbar().front().action();
+    EXPECT_FALSE(toggle.isOn.get());
+    EXPECT_FALSE(manager.isEnabled);
+    EXPECT_FALSE(settings().isCursorHaloEnabled);
+    toggle.isOn.set(true);
+    EXPECT_TRUE(settings().isCursorHaloEnabled);
+}
+
+TEST_F(CursorSettings, a_halo_runs_through_a_reset_on_another_tab_until_its_own_opens) {
+    settings().isCursorHaloEnabled = true;
+    manager.isEnabled = true;
+    view.toolbar().front().action();
+    EXPECT_TRUE(manager.isEnabled);
+    EXPECT_FALSE(settings().isCursorHaloEnabled);
+    open();
+    EXPECT_FALSE(manager.isEnabled);
+}
+
 TEST_F(CursorSettings, a_turn_of_the_manager_is_announced) {
     open();
     int changes = 0;

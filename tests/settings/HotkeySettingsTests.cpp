@@ -232,6 +232,17 @@ TEST_F(HotkeySettings, a_recording_left_by_closing_the_window_puts_the_shortcuts
     EXPECT_EQ(liveCount(), 6U);
 }
 
+TEST_F(HotkeySettings, a_reset_ends_a_recording_and_the_default_shortcuts_are_in_service) {
+    row(HotkeyAction::toggleZoom).clear();
+    host.mainQueue.run();
+    begin(HotkeyAction::undo);
+    view.toolbar().front().action();
+    host.mainQueue.run();
+    EXPECT_FALSE(state(HotkeyAction::undo).recorder.isRecording);
+    EXPECT_EQ(state(HotkeyAction::toggleZoom).binding, "⌘⇧X");
+    EXPECT_EQ(liveCount(), HotkeyConfig::defaults().size());
+}
+
 TEST_F(HotkeySettings, leaving_the_tab_without_a_recording_registers_nothing_anew) {
     const auto ids = hotkeyManager.hotkeyIDCounter();
     view.select(SettingsTab::about);

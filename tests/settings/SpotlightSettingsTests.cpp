@@ -149,6 +149,24 @@ TEST_F(SpotlightSettings, the_switches_turn_the_manager_and_the_store_follows) {
     EXPECT_TRUE(settings().isZoomEnabled);
 }
 
+TEST_F(SpotlightSettings,
+       a_reset_switches_spotlight_and_lens_off_and_their_switches_go_on_leading) {
+    open();
+    const auto spotlight = row<ToggleRow>(0, 0);
+    const auto zoom = row<ToggleRow>(1, 0);
+    spotlight.isOn.set(true);
+    zoom.isOn.set(true);
+    view.toolbar().front().action();
+    EXPECT_FALSE(spotlight.isOn.get());
+    EXPECT_FALSE(zoom.isOn.get());
+    EXPECT_FALSE(manager.isSpotlightEnabled);
+    EXPECT_FALSE(manager.isZoomEnabled);
+    EXPECT_FALSE(settings().isSpotlightEnabled);
+    EXPECT_FALSE(settings().isZoomEnabled);
+    spotlight.isOn.set(true);
+    EXPECT_TRUE(settings().isSpotlightEnabled);
+}
+
 TEST_F(SpotlightSettings, the_store_follows_whoever_turns_the_manager_while_it_is_open) {
     open();
     manager.isSpotlightEnabled = true;

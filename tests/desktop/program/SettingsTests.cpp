@@ -203,6 +203,18 @@ TEST_F(SettingsOnScreen, reset_brings_everything_back_and_the_open_tab_shows_it)
     EXPECT_EQ(stored<double>([](AppSettings& settings) { return settings.lineWidth.get(); }), 4);
 }
 
+TEST_F(SettingsOnScreen, reset_on_the_tab_of_the_spotlight_switches_it_off) {
+    startAndOpen();
+    showTab(spotlight);
+    input.click(switchOf(0, 1));
+    ASSERT_TRUE(isOn(switchOf(0, 1)));
+    ASSERT_TRUE(
+        screen.waitForPixel({20, 500}, [](Rgb seen) { return seen.blue < kBackground.blue - 30; }));
+    input.click(at({560, -16}));
+    EXPECT_TRUE(isOff(switchOf(0, 1)));
+    EXPECT_TRUE(showsBackground({20, 500}));
+}
+
 TEST_F(SettingsOnScreen, its_menu_switches_annotation_on) {
     startAndOpen();
     input.click(at({38, -16}));
