@@ -12,8 +12,8 @@ void Samples::add(double value) {
     m_values.push_back(value);
 }
 
-void Samples::add(const Samples& others) {
-    m_values.insert(m_values.end(), others.m_values.begin(), others.m_values.end());
+void Samples::add(const std::vector<double>& values) {
+    m_values.insert(m_values.end(), values.begin(), values.end());
 }
 
 double Samples::percentile(double percent) const {
@@ -32,6 +32,15 @@ std::string fixed(double value, int digits) {
     std::ostringstream text;
     text << std::fixed << std::setprecision(digits) << value;
     return text.str();
+}
+
+std::string grouped(std::size_t number) {
+    const std::string digits = std::to_string(number);
+    if (digits.size() <= 3) {
+        return digits;
+    }
+    const std::size_t front = digits.size() - 3;
+    return digits.substr(0, front) + "," + digits.substr(front);
 }
 
 std::string row(const std::vector<std::string>& cells) {

@@ -9,7 +9,8 @@ namespace quillon::bench {
 class Samples {
 public:
     void add(double value);
-    void add(const Samples& others);
+    void add(const Samples& others) { add(others.m_values); }
+    void add(const std::vector<double>& values);
 
     std::size_t count() const { return m_values.size(); }
     /// The smallest value that `percent` of all values do not exceed (nearest rank); nought when
@@ -22,6 +23,9 @@ private:
 
 /// A number with so many digits after the point.
 std::string fixed(double value, int digits);
+
+/// A whole number below a million as it is read: "10,000".
+std::string grouped(std::size_t number);
 
 /// A Markdown table row: "| a | b |".
 std::string row(const std::vector<std::string>& cells);

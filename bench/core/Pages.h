@@ -1,0 +1,31 @@
+#pragma once
+
+#include "bench/core/Page.h"
+
+#include <benchmark/benchmark.h>
+
+namespace quillon::bench {
+
+/// Runs a benchmark once for each size of a page, which it finds in `state.range()`.
+inline void forEachPage(benchmark::internal::Benchmark* benchmark) {
+    for (const std::size_t strokes : kPageSizes) {
+        benchmark->Arg(static_cast<std::int64_t>(strokes));
+    }
+    benchmark->Unit(benchmark::kMillisecond);
+}
+
+/// The same without the largest page, for what would take minutes there.
+inline void forEachPageButTheLargest(benchmark::internal::Benchmark* benchmark) {
+    for (const std::size_t strokes : kPageSizes) {
+        if (strokes <= kLargePage) {
+            benchmark->Arg(static_cast<std::int64_t>(strokes));
+        }
+    }
+    benchmark->Unit(benchmark::kMillisecond);
+}
+
+inline std::size_t sizeOfPage(const benchmark::State& state) {
+    return static_cast<std::size_t>(state.range());
+}
+
+} // namespace quillon::bench
