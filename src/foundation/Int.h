@@ -17,9 +17,11 @@ inline void increment(Int& counter) {
     ++counter;
 }
 
-/// The integer part, toward zero.
+/// The integer part of `value`, toward zero, as every number is shown to the user. A value that is
+/// not finite, or that no `Int` holds, is a broken assumption and ends the program.
 inline Int integerPart(double value) {
     constexpr double end = 9223372036854775808.0;
+    // Written so that a value that is no number fails as well.
     if (!(value >= -end && value < end)) {
         fatalError("a number is out of the range of integers");
     }

@@ -1,6 +1,6 @@
 #include "settings/AnnotationSettingsView.h"
 
-#include "foundation/Truncation.h"
+#include "foundation/Int.h"
 
 namespace quillon {
 
@@ -26,7 +26,7 @@ Binding<bool> whiteboardSwitch(AppSettings& settings) {
 
 PageContent AnnotationSettingsView::content() {
     auto& settings = m_appSettings;
-    const auto inPoints = [](double width) { return std::to_string(truncated(width)) + "pt"; };
+    const auto inPoints = [](double width) { return std::to_string(integerPart(width)) + "pt"; };
     const auto timerName = [](AutoEraseTimer timer) { return std::string(displayName(timer)); };
     return Form{
         "Annotation Settings",

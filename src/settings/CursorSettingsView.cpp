@@ -1,6 +1,6 @@
 #include "settings/CursorSettingsView.h"
 
-#include "foundation/Truncation.h"
+#include "foundation/Int.h"
 #include "settings/FollowingSwitch.h"
 
 namespace quillon {
@@ -19,7 +19,7 @@ std::string animationName(ClickAnimationType type) {
 PageContent CursorSettingsView::content() {
     auto& settings = m_appSettings;
     const auto shapeName = [](HaloShape shape) { return std::string(displayName(shape)); };
-    const auto number = [](double value) { return std::to_string(truncated(value)); };
+    const auto number = [](double value) { return std::to_string(integerPart(value)); };
     return Form{
         "Cursor Halo Settings",
         {

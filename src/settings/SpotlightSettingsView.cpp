@@ -1,6 +1,6 @@
 #include "settings/SpotlightSettingsView.h"
 
-#include "foundation/Truncation.h"
+#include "foundation/Int.h"
 #include "settings/FollowingSwitch.h"
 
 namespace quillon {
@@ -10,7 +10,7 @@ namespace {
 constexpr CGFloat kSliderWidth = 150;
 
 std::string number(double value) {
-    return std::to_string(truncated(value));
+    return std::to_string(integerPart(value));
 }
 std::string percent(double value) {
     return number(value * 100) + "%";

@@ -1,6 +1,6 @@
 #include "toolbar/ColorPickerView.h"
 
-#include "foundation/Truncation.h"
+#include "foundation/Int.h"
 
 #include <array>
 #include <cstdint>
@@ -12,12 +12,12 @@ namespace quillon {
 namespace {
 
 std::string percentage(double value) {
-    return std::to_string(truncated(value * 100)) + "%";
+    return std::to_string(integerPart(value * 100)) + "%";
 }
 
 /// As the format sees an integer: its lower 32 bits.
 std::uint32_t hexComponent(double component) {
-    return static_cast<std::uint32_t>(truncated(component * 255));
+    return static_cast<std::uint32_t>(integerPart(component * 255));
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "toolbar/FloatingToolbarView.h"
 
-#include "foundation/Truncation.h"
+#include "foundation/Int.h"
 
 #include <algorithm>
 #include <utility>
@@ -120,7 +120,7 @@ SwatchSection FloatingToolbarView::swatchSection(std::string title,
 }
 
 std::string FloatingToolbarView::lineWidthText() const {
-    return std::to_string(truncated(m_lineWidth.get())) + "pt";
+    return std::to_string(integerPart(m_lineWidth.get())) + "pt";
 }
 
 PaletteControl FloatingToolbarView::lineWidthMenu() {

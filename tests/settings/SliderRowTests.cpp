@@ -1,4 +1,4 @@
-#include "foundation/Truncation.h"
+#include "foundation/Int.h"
 #include "settings/SettingsView.h"
 
 #include <gtest/gtest.h>
@@ -11,7 +11,7 @@ namespace quillon::test {
 namespace {
 
 std::string inFull(double value) {
-    return std::to_string(truncated(value));
+    return std::to_string(integerPart(value));
 }
 
 struct Slider {
