@@ -12,6 +12,38 @@ namespace quillon::desktop {
 namespace {
 
 constexpr float kSecondaryAlpha = 0.62F;
+/// How much of the text's colour stands in the ground of a control.
+constexpr float kControlPartLight = 0.06F;
+constexpr float kControlPartDark = 0.16F;
+
+QColor colorOf(SystemColor::Role role, const QPalette& palette) {
+    const auto active = [&palette](QPalette::ColorRole part) {
+        return palette.color(QPalette::Active, part);
+    };
+    switch (role) {
+    case SystemColor::Role::clearColor:
+        return Qt::transparent;
+    case SystemColor::Role::controlAccentColor:
+        return active(QPalette::Highlight);
+    case SystemColor::Role::controlBackgroundColor:
+        return blended(active(QPalette::Window), active(QPalette::WindowText),
+                       isDark(palette) ? kControlPartDark : kControlPartLight);
+    case SystemColor::Role::labelColor:
+        return active(QPalette::WindowText);
+    case SystemColor::Role::secondaryLabelColor: {
+        QColor secondary = active(QPalette::WindowText);
+        secondary.setAlphaF(kSecondaryAlpha);
+        return secondary;
+    }
+    case SystemColor::Role::systemRedColor:
+        return toQColor(Color::red);
+    case SystemColor::Role::whiteColor:
+        return Qt::white;
+    case SystemColor::Role::windowBackgroundColor:
+        return active(QPalette::Window);
+    }
+    return {};
+}
 
 } // namespace
 
@@ -19,27 +51,14 @@ bool isDark(const QPalette& palette) {
     return palette.color(QPalette::Window).lightnessF() < 0.5F;
 }
 
-QColor toQColor(const SemanticColor& color, const QPalette& palette) {
-    // A control that is out of service says so by its own description.
-    const auto base = [&] {
-        switch (color.role) {
-        case SemanticColor::Role::clear:
-            return QColor(Qt::transparent);
-        case SemanticColor::Role::primary:
-            return palette.color(QPalette::Active, QPalette::WindowText);
-        case SemanticColor::Role::secondary: {
-            QColor secondary = palette.color(QPalette::Active, QPalette::WindowText);
-            secondary.setAlphaF(kSecondaryAlpha);
-            return secondary;
-        }
-        case SemanticColor::Role::accent:
-            return palette.color(QPalette::Active, QPalette::Highlight);
-        case SemanticColor::Role::red:
-            return toQColor(Color::red);
-        }
-        return QColor();
-    };
-    QColor result = base();
+QColor blended(const QColor& ground, const QColor& over, float part) {
+    const auto mix = [part](float from, float to) { return from + (to - from) * part; };
+    return QColor::fromRgbF(mix(ground.redF(), over.redF()), mix(ground.greenF(), over.greenF()),
+                            mix(ground.blueF(), over.blueF()));
+}
+
+QColor toQColor(const SystemColor& color, const QPalette& palette) {
+    QColor result = colorOf(color.role, palette);
     result.setAlphaF(result.alphaF() * static_cast<float>(color.alpha));
     return result;
 }

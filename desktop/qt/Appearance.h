@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/SemanticColor.h"
+#include "platform/SystemColor.h"
 
 #include <QColor>
 #include <QFont>
@@ -14,7 +14,11 @@ namespace quillon::desktop {
 
 bool isDark(const QPalette& palette);
 
-QColor toQColor(const SemanticColor& color, const QPalette& palette);
+/// `part` of `over`, from 0 to 1, on `ground`. Opaque.
+QColor blended(const QColor& ground, const QColor& over, float part);
+
+/// As an active control shows it: one that is out of service says so by its own description.
+QColor toQColor(const SystemColor& color, const QPalette& palette);
 
 /// The translucent material of panels that float over the screen: legible over white, black and
 /// anything between.

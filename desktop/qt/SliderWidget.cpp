@@ -96,13 +96,13 @@ void SliderWidget::paintEvent(QPaintEvent* /*event*/) {
     const QRectF track(kKnob / 2 - kTrack / 2, (height() - kTrack) / 2, width() - kKnob + kTrack,
                        kTrack);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(toQColor(SemanticColor::primary.opacity(0.16), palette()));
+    painter.setBrush(toQColor(SystemColor::labelColor.opacity(0.16), palette()));
     painter.drawRoundedRect(track, kTrack / 2, kTrack / 2);
-    painter.setBrush(m_accent.value_or(toQColor(SemanticColor::accent, palette())));
+    painter.setBrush(m_accent.value_or(toQColor(SystemColor::controlAccentColor, palette())));
     painter.drawRoundedRect(QRectF(track.topLeft(), QPointF(knob, track.bottom())), kTrack / 2,
                             kTrack / 2);
 
-    painter.setPen(hasFocus() ? QPen(toQColor(SemanticColor::accent, palette()), 2)
+    painter.setPen(hasFocus() ? QPen(toQColor(SystemColor::controlAccentColor, palette()), 2)
                               : QPen(QColor(0, 0, 0, 60), 1));
     painter.setBrush(Qt::white);
     painter.drawEllipse(QPointF(knob, height() / 2.0), kKnob / 2 - 1, kKnob / 2 - 1);

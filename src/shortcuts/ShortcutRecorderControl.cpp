@@ -18,7 +18,7 @@ void call(const ShortcutRecorderControl::Action& action) {
 } // namespace
 
 SystemColor ShortcutRecorderControl::fill() const {
-    return m_isRecording ? SystemColor::controlAccent : SystemColor::controlBackground;
+    return m_isRecording ? SystemColor::controlAccentColor : SystemColor::controlBackgroundColor;
 }
 
 void ShortcutRecorderControl::setTitle(const std::string& title) {
@@ -29,7 +29,7 @@ void ShortcutRecorderControl::setTitle(const std::string& title) {
 
 void ShortcutRecorderControl::setRecording(bool recording) {
     m_isRecording = recording;
-    m_titleField.textColor = recording ? SystemColor::white : SystemColor::label;
+    m_titleField.textColor = recording ? SystemColor::whiteColor : SystemColor::labelColor;
     display();
 }
 

@@ -29,7 +29,7 @@ public:
         static constexpr double fontSize = 12;
 
         std::string stringValue;
-        SystemColor textColor = SystemColor::label;
+        SystemColor textColor = SystemColor::labelColor;
 
         friend bool operator==(const TitleField&, const TitleField&) = default;
     };

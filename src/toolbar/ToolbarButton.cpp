@@ -4,21 +4,22 @@
 
 namespace quillon {
 
-SemanticColor ToolbarButton::foregroundColor() const {
+SystemColor ToolbarButton::foregroundColor() const {
     if (isDisabled) {
-        return SemanticColor::secondary.opacity(0.5);
+        return SystemColor::secondaryLabelColor.opacity(0.5);
     }
     if (isDestructive) {
-        return SemanticColor::red;
+        return SystemColor::systemRedColor;
     }
-    return isSelected ? SemanticColor::accent : SemanticColor::primary;
+    return isSelected ? SystemColor::controlAccentColor : SystemColor::labelColor;
 }
 
-SemanticColor ToolbarButton::background() const {
+SystemColor ToolbarButton::background() const {
     if (isSelected) {
-        return SemanticColor::accent.opacity(0.15);
+        return SystemColor::controlAccentColor.opacity(0.15);
     }
-    return isHovered && !isDisabled ? SemanticColor::primary.opacity(0.08) : SemanticColor::clear;
+    return isHovered && !isDisabled ? SystemColor::labelColor.opacity(0.08)
+                                    : SystemColor::clearColor;
 }
 
 PressEventsModifier ToolbarButton::pressEvents() {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/Geometry.h"
-#include "platform/SemanticColor.h"
+#include "platform/SystemColor.h"
 #include "toolbar/PressEventsModifier.h"
 
 #include <functional>
@@ -37,8 +37,8 @@ struct ToolbarButton {
     /// newer descriptions.
     bool isPressed = false;
 
-    SemanticColor foregroundColor() const;
-    SemanticColor background() const;
+    SystemColor foregroundColor() const;
+    SystemColor background() const;
     double scale() const { return isPressed ? pressedScale : 1; }
 
     PressEventsModifier pressEvents();

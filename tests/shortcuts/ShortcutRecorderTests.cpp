@@ -80,14 +80,14 @@ TEST_F(ShortcutRecorder, the_title_is_what_the_label_shows) {
 }
 
 TEST_F(ShortcutRecorder, the_look_depends_on_recording_alone) {
-    EXPECT_EQ(control->fill(), SystemColor::controlBackground);
-    EXPECT_EQ(control->titleField().textColor, SystemColor::label);
+    EXPECT_EQ(control->fill(), SystemColor::controlBackgroundColor);
+    EXPECT_EQ(control->titleField().textColor, SystemColor::labelColor);
     record();
-    EXPECT_EQ(control->fill(), SystemColor::controlAccent);
-    EXPECT_EQ(control->titleField().textColor, SystemColor::white);
+    EXPECT_EQ(control->fill(), SystemColor::controlAccentColor);
+    EXPECT_EQ(control->titleField().textColor, SystemColor::whiteColor);
     view(false).updateControl(*control);
-    EXPECT_EQ(control->fill(), SystemColor::controlBackground);
-    EXPECT_EQ(control->titleField().textColor, SystemColor::label);
+    EXPECT_EQ(control->fill(), SystemColor::controlBackgroundColor);
+    EXPECT_EQ(control->titleField().textColor, SystemColor::labelColor);
 }
 
 TEST_F(ShortcutRecorder, a_change_of_title_or_of_recording_asks_for_a_new_picture) {

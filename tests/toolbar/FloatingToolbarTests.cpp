@@ -130,7 +130,7 @@ TEST_F(FloatingToolbar, the_colour_button_does_not_show_the_colour) {
     color = Color::red;
     EXPECT_EQ(colorControl().button.icon, "paintpalette.fill");
     EXPECT_EQ(colorControl().button.label, "Color");
-    EXPECT_EQ(colorControl().button.foregroundColor(), SemanticColor::primary);
+    EXPECT_EQ(colorControl().button.foregroundColor(), SystemColor::labelColor);
 }
 
 TEST_F(FloatingToolbar, the_flags_of_the_two_other_menus_are_toggled_and_mean_nothing) {
@@ -188,17 +188,19 @@ TEST_F(FloatingToolbar, the_whiteboard_button_is_filled_and_selected_while_it_is
     whiteboardControl().button.action();
     EXPECT_TRUE(isWhiteboardMode);
     EXPECT_EQ(whiteboardControl().button.icon, "square.fill");
-    EXPECT_EQ(whiteboardControl().button.foregroundColor(), SemanticColor::accent);
+    EXPECT_EQ(whiteboardControl().button.foregroundColor(), SystemColor::controlAccentColor);
     whiteboardControl().onHover(true);
-    EXPECT_EQ(whiteboardControl().button.background(), SemanticColor::accent.opacity(0.15));
+    EXPECT_EQ(whiteboardControl().button.background(),
+              SystemColor::controlAccentColor.opacity(0.15));
 }
 
 TEST_F(FloatingToolbar, undo_without_history_is_dim_and_dead_and_shows_no_hover) {
     undoControl().onHover(true);
     EXPECT_TRUE(undoControl().isDisabled);
     EXPECT_TRUE(undoControl().button.isDisabled);
-    EXPECT_EQ(undoControl().button.foregroundColor(), SemanticColor::secondary.opacity(0.5));
-    EXPECT_EQ(undoControl().button.background(), SemanticColor::clear);
+    EXPECT_EQ(undoControl().button.foregroundColor(),
+              SystemColor::secondaryLabelColor.opacity(0.5));
+    EXPECT_EQ(undoControl().button.background(), SystemColor::clearColor);
     EXPECT_EQ(undoControl().keyEquivalent, (KeyEquivalent{'z', false}));
 }
 
@@ -206,7 +208,7 @@ TEST_F(FloatingToolbar, redo_without_history_is_dim_and_dead_and_shows_no_hover)
     redoControl().onHover(true);
     EXPECT_TRUE(redoControl().isDisabled);
     EXPECT_TRUE(redoControl().button.isDisabled);
-    EXPECT_EQ(redoControl().button.background(), SemanticColor::clear);
+    EXPECT_EQ(redoControl().button.background(), SystemColor::clearColor);
     EXPECT_EQ(redoControl().keyEquivalent, (KeyEquivalent{'z', true}));
 }
 

@@ -10,8 +10,8 @@ ToolbarButton button() {
 }
 
 TEST(ToolbarButton, it_is_primary_on_nothing_by_itself) {
-    EXPECT_EQ(button().foregroundColor(), SemanticColor::primary);
-    EXPECT_EQ(button().background(), SemanticColor::clear);
+    EXPECT_EQ(button().foregroundColor(), SystemColor::labelColor);
+    EXPECT_EQ(button().background(), SystemColor::clearColor);
 }
 
 TEST(ToolbarButton, a_disabled_one_is_half_of_the_secondary_colour_before_anything_else) {
@@ -19,37 +19,37 @@ TEST(ToolbarButton, a_disabled_one_is_half_of_the_secondary_colour_before_anythi
     disabled.isDisabled = true;
     disabled.isDestructive = true;
     disabled.isSelected = true;
-    EXPECT_EQ(disabled.foregroundColor(), SemanticColor::secondary.opacity(0.5));
+    EXPECT_EQ(disabled.foregroundColor(), SystemColor::secondaryLabelColor.opacity(0.5));
 }
 
 TEST(ToolbarButton, a_destructive_one_is_red_also_when_selected) {
     ToolbarButton destructive = button();
     destructive.isDestructive = true;
     destructive.isSelected = true;
-    EXPECT_EQ(destructive.foregroundColor(), SemanticColor::red);
+    EXPECT_EQ(destructive.foregroundColor(), SystemColor::systemRedColor);
 }
 
 TEST(ToolbarButton, a_destructive_one_stays_red_when_hovered_on_the_neutral_tint) {
     ToolbarButton destructive = button();
     destructive.isDestructive = true;
     destructive.isHovered = true;
-    EXPECT_EQ(destructive.foregroundColor(), SemanticColor::red);
-    EXPECT_EQ(destructive.background(), SemanticColor::primary.opacity(0.08));
+    EXPECT_EQ(destructive.foregroundColor(), SystemColor::systemRedColor);
+    EXPECT_EQ(destructive.background(), SystemColor::labelColor.opacity(0.08));
 }
 
 TEST(ToolbarButton, the_selected_look_wins_over_the_hovered_one) {
     ToolbarButton selected = button();
     selected.isSelected = true;
     selected.isHovered = true;
-    EXPECT_EQ(selected.foregroundColor(), SemanticColor::accent);
-    EXPECT_EQ(selected.background(), SemanticColor::accent.opacity(0.15));
+    EXPECT_EQ(selected.foregroundColor(), SystemColor::controlAccentColor);
+    EXPECT_EQ(selected.background(), SystemColor::controlAccentColor.opacity(0.15));
 }
 
 TEST(ToolbarButton, a_disabled_one_shows_no_hover) {
     ToolbarButton disabled = button();
     disabled.isDisabled = true;
     disabled.isHovered = true;
-    EXPECT_EQ(disabled.background(), SemanticColor::clear);
+    EXPECT_EQ(disabled.background(), SystemColor::clearColor);
 }
 
 TEST(ToolbarButton, a_press_may_be_told_again_and_again_and_shrinks_it_until_the_release) {

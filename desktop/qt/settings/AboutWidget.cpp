@@ -1,5 +1,6 @@
 #include "desktop/qt/settings/AboutWidget.h"
 
+#include "desktop/qt/Appearance.h"
 #include "desktop/qt/QtImages.h"
 #include "desktop/qt/settings/Look.h"
 #include "desktop/qt/settings/RoleLabel.h"
@@ -35,8 +36,7 @@ protected:
         }
         painter.drawPixmap(0, 0,
                            QtImages::symbolPixmap(QString::fromStdString(m_image.name), size(),
-                                                  devicePixelRatio(),
-                                                  look::color(m_tint, palette())));
+                                                  devicePixelRatio(), toQColor(m_tint, palette())));
     }
 
 private:
@@ -73,12 +73,14 @@ AboutWidget::AboutWidget(const AboutPage& page, QWidget* parent)
     column->addStretch();
 
     const QSize iconSize(qRound(AboutPage::iconSize.width), qRound(AboutPage::iconSize.height));
-    QWidget* const icon = page.icon ? new Picture(*page.icon, iconSize, SystemColor::controlAccent)
-                                    : new QWidget(this);
+    QWidget* const icon = page.icon
+                              ? new Picture(*page.icon, iconSize, SystemColor::controlAccentColor)
+                              : new QWidget(this);
     icon->setFixedSize(iconSize);
     column->addWidget(icon, 0, Qt::AlignHCenter);
-    column->addWidget(makeText(page.name, look::title(), SystemColor::label), 0, Qt::AlignHCenter);
-    column->addWidget(makeText(page.purpose, look::headline(), SystemColor::secondaryLabel), 0,
+    column->addWidget(makeText(page.name, look::title(), SystemColor::labelColor), 0,
+                      Qt::AlignHCenter);
+    column->addWidget(makeText(page.purpose, look::headline(), SystemColor::secondaryLabelColor), 0,
                       Qt::AlignHCenter);
     column->addWidget(new Divider);
 
@@ -91,8 +93,8 @@ AboutWidget::AboutWidget(const AboutPage& page, QWidget* parent)
         line->setSpacing(kFactSymbolSize / 2);
         line->addWidget(new Picture(Image{Image::Kind::symbol, fact.symbol, {}, {}},
                                     {kFactSymbolSize, kFactSymbolSize},
-                                    SystemColor::secondaryLabel));
-        line->addWidget(makeText(fact.text, look::subheadline(), SystemColor::secondaryLabel));
+                                    SystemColor::secondaryLabelColor));
+        line->addWidget(makeText(fact.text, look::subheadline(), SystemColor::secondaryLabelColor));
         line->addStretch();
         lines->addLayout(line);
     }

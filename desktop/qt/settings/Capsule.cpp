@@ -1,6 +1,6 @@
 #include "desktop/qt/settings/Capsule.h"
 
-#include "desktop/qt/settings/Look.h"
+#include "desktop/qt/Appearance.h"
 #include "settings/SettingsView.h"
 
 #include <QPainter>
@@ -19,7 +19,7 @@ void Capsule::paintEvent(QPaintEvent* event) {
     if (m_isFilled) {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        QColor fill = look::color(SystemColor::secondaryLabel, palette());
+        QColor fill = toQColor(SystemColor::secondaryLabelColor, palette());
         fill.setAlphaF(static_cast<float>(ShortcutRow::capsuleOpacity));
         painter.setPen(Qt::NoPen);
         painter.setBrush(fill);

@@ -1,5 +1,6 @@
 #include "desktop/qt/settings/FormRows.h"
 
+#include "desktop/qt/Appearance.h"
 #include "desktop/qt/QtImages.h"
 #include "desktop/qt/settings/ColorCircle.h"
 #include "desktop/qt/settings/Look.h"
@@ -63,7 +64,7 @@ protected:
         QPainter painter(this);
         painter.drawPixmap(0, 0,
                            QtImages::symbolPixmap(m_symbol, size(), devicePixelRatio(),
-                                                  look::color(SystemColor::label, palette())));
+                                                  toQColor(SystemColor::labelColor, palette())));
     }
 
 private:

@@ -1,5 +1,6 @@
 #include "desktop/qt/settings/Look.h"
 
+#include "desktop/qt/Appearance.h"
 #include "desktop/qt/QtConversions.h"
 
 #include <QFontDatabase>
@@ -11,17 +12,6 @@ namespace {
 constexpr int kBodySize = 13;
 constexpr int kSubheadlineSize = 12;
 constexpr int kTitleSize = 22;
-
-bool isDark(const QPalette& palette) {
-    return palette.color(QPalette::Window).lightnessF() < 0.5F;
-}
-
-/// `part` of `over` on `ground`.
-QColor blend(const QColor& ground, const QColor& over, float part) {
-    const auto mix = [part](float from, float to) { return from + (to - from) * part; };
-    return QColor::fromRgbF(mix(ground.redF(), over.redF()), mix(ground.greenF(), over.greenF()),
-                            mix(ground.blueF(), over.blueF()));
-}
 
 QColor withAlpha(QColor color, float alpha) {
     color.setAlphaF(alpha);
@@ -36,11 +26,11 @@ QFont weighted(QFont font, QFont::Weight weight) {
 } // namespace
 
 QColor page(const QPalette& palette) {
-    return blend(palette.color(QPalette::Window), palette.color(QPalette::WindowText), 0.02F);
+    return blended(palette.color(QPalette::Window), palette.color(QPalette::WindowText), 0.02F);
 }
 
 QColor group(const QPalette& palette) {
-    return blend(palette.color(QPalette::Window), Qt::white, isDark(palette) ? 0.06F : 0.75F);
+    return blended(palette.color(QPalette::Window), Qt::white, isDark(palette) ? 0.06F : 0.75F);
 }
 
 QColor hairline(const QPalette& palette) {
@@ -53,25 +43,6 @@ QColor outline(const QPalette& palette) {
 
 QColor track(const QPalette& palette) {
     return withAlpha(palette.color(QPalette::WindowText), 0.18F);
-}
-
-QColor color(SystemColor role, const QPalette& palette) {
-    switch (role) {
-    case SystemColor::controlAccent:
-        return palette.color(QPalette::Highlight);
-    case SystemColor::controlBackground:
-        return blend(palette.color(QPalette::Window), palette.color(QPalette::WindowText),
-                     isDark(palette) ? 0.16F : 0.06F);
-    case SystemColor::label:
-        return palette.color(QPalette::WindowText);
-    case SystemColor::secondaryLabel:
-        return withAlpha(palette.color(QPalette::WindowText), 0.62F);
-    case SystemColor::white:
-        return Qt::white;
-    case SystemColor::windowBackground:
-        return palette.color(QPalette::Window);
-    }
-    return {};
 }
 
 QFont body() {

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "platform/SystemColor.h"
-
 #include <QColor>
 #include <QFont>
 #include <QPalette>
@@ -17,8 +15,6 @@ QColor hairline(const QPalette& palette);
 QColor outline(const QPalette& palette);
 /// The empty part of a switch or a slider.
 QColor track(const QPalette& palette);
-
-QColor color(SystemColor role, const QPalette& palette);
 
 // Text styles, by their names.
 QFont body();

@@ -1,8 +1,8 @@
 #include "desktop/qt/settings/RecorderWidget.h"
 
+#include "desktop/qt/Appearance.h"
 #include "desktop/qt/QtConversions.h"
 #include "desktop/qt/settings/FocusRing.h"
-#include "desktop/qt/settings/Look.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -73,14 +73,14 @@ void RecorderWidget::paintEvent(QPaintEvent* /*event*/) {
     painter.setRenderHint(QPainter::Antialiasing);
     const qreal radius = ShortcutRecorderControl::cornerRadius;
     painter.setPen(Qt::NoPen);
-    painter.setBrush(look::color(m_control->fill(), palette()));
+    painter.setBrush(toQColor(m_control->fill(), palette()));
     painter.drawRoundedRect(rect(), radius, radius);
 
     const auto& title = m_control->titleField();
     QFont font = systemFont(ShortcutRecorderControl::TitleField::fontSize);
     font.setWeight(QFont::Medium);
     painter.setFont(font);
-    painter.setPen(look::color(title.textColor, palette()));
+    painter.setPen(toQColor(title.textColor, palette()));
     painter.drawText(rect(), Qt::AlignCenter, QString::fromStdString(title.stringValue));
     if (FocusRing::isShown(*this) && !m_control->isRecording()) {
         const QRectF inside = QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5);

@@ -1,6 +1,6 @@
 #include "desktop/qt/settings/RoleLabel.h"
 
-#include "desktop/qt/settings/Look.h"
+#include "desktop/qt/Appearance.h"
 
 #include <QEvent>
 #include <QGuiApplication>
@@ -27,7 +27,7 @@ void RoleLabel::changeEvent(QEvent* event) {
 }
 
 void RoleLabel::applyRole() {
-    const QColor color = look::color(m_role, QGuiApplication::palette());
+    const QColor color = toQColor(m_role, QGuiApplication::palette());
     // To set a palette is a change of the palette in its turn.
     if (palette().color(QPalette::WindowText) != color) {
         QPalette own;

@@ -1,5 +1,6 @@
 #include "desktop/qt/settings/StopSlider.h"
 
+#include "desktop/qt/Appearance.h"
 #include "desktop/qt/settings/FocusRing.h"
 #include "desktop/qt/settings/Look.h"
 
@@ -43,7 +44,7 @@ void StopSlider::paintEvent(QPaintEvent* /*event*/) {
 
     painter.setPen(QPen(look::track(palette()), kGrooveHeight, Qt::SolidLine, Qt::RoundCap));
     painter.drawLine(line);
-    painter.setPen(QPen(look::color(SystemColor::controlAccent, palette()), kGrooveHeight,
+    painter.setPen(QPen(toQColor(SystemColor::controlAccentColor, palette()), kGrooveHeight,
                         Qt::SolidLine, Qt::RoundCap));
     painter.drawLine(line.p1(), knob);
 

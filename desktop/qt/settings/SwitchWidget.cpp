@@ -1,5 +1,6 @@
 #include "desktop/qt/settings/SwitchWidget.h"
 
+#include "desktop/qt/Appearance.h"
 #include "desktop/qt/settings/FocusRing.h"
 #include "desktop/qt/settings/Look.h"
 
@@ -35,7 +36,7 @@ void SwitchWidget::paintEvent(QPaintEvent* /*event*/) {
     const qreal radius = track.height() / 2;
 
     painter.setPen(Qt::NoPen);
-    painter.setBrush(isChecked() ? look::color(SystemColor::controlAccent, palette())
+    painter.setBrush(isChecked() ? toQColor(SystemColor::controlAccentColor, palette())
                                  : look::track(palette()));
     painter.drawRoundedRect(track, radius, radius);
 

@@ -1,9 +1,9 @@
 #include "desktop/qt/settings/TabButtonWidget.h"
 
+#include "desktop/qt/Appearance.h"
 #include "desktop/qt/QtConversions.h"
 #include "desktop/qt/QtImages.h"
 #include "desktop/qt/settings/FocusRing.h"
-#include "desktop/qt/settings/Look.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -41,12 +41,12 @@ QSize TabButtonWidget::sizeHint() const {
 void TabButtonWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QColor accent = look::color(SystemColor::controlAccent, palette());
-    const QColor ink = isChecked() ? accent : look::color(SystemColor::label, palette());
+    const SystemColor color =
+        isChecked() ? SystemColor::controlAccentColor : SystemColor::labelColor;
+    const QColor ink = toQColor(color, palette());
     if (isChecked()) {
-        QColor ground = accent;
-        ground.setAlphaF(static_cast<float>(TabButton::selectedGroundOpacity));
-        painter.fillRect(rect(), ground);
+        painter.fillRect(rect(),
+                         toQColor(color.opacity(TabButton::selectedGroundOpacity), palette()));
     }
     const int top = qRound(TabButton::verticalPadding);
     painter.drawPixmap(

@@ -1,5 +1,6 @@
 #include "desktop/qt/settings/TabStripWidget.h"
 
+#include "desktop/qt/Appearance.h"
 #include "desktop/qt/settings/Look.h"
 #include "desktop/qt/settings/TabButtonWidget.h"
 
@@ -54,7 +55,7 @@ void TabStripWidget::follow(const TabStrip& strip) {
 
 void TabStripWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    painter.fillRect(rect(), look::color(SystemColor::windowBackground, palette()));
+    painter.fillRect(rect(), toQColor(SystemColor::windowBackgroundColor, palette()));
     painter.fillRect(0, height() - 1, width(), 1, look::hairline(palette()));
 }
 

@@ -14,7 +14,7 @@ public:
         : QLabel(text) {
         setFont(systemFont(kCaptionSize));
         QPalette look = palette();
-        look.setColor(QPalette::WindowText, toQColor(SemanticColor::secondary, look));
+        look.setColor(QPalette::WindowText, toQColor(SystemColor::secondaryLabelColor, look));
         setPalette(look);
     }
 };

@@ -53,7 +53,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
-        QPainter(this).fillRect(rect(), toQColor(SemanticColor::primary.opacity(0.12), palette()));
+        QPainter(this).fillRect(rect(), toQColor(SystemColor::labelColor.opacity(0.12), palette()));
     }
 };
 

@@ -92,7 +92,7 @@ void HueSaturationWidget::paintEvent(QPaintEvent* /*event*/) {
     painter.drawImage(square().topLeft(), m_wheel);
     if (hasFocus()) {
         painter.strokePath(circle(square().center(), square().width() - 2),
-                           QPen(toQColor(SemanticColor::accent, palette()), 2));
+                           QPen(toQColor(SystemColor::controlAccentColor, palette()), 2));
     }
     paintRing(
         painter, circle(markerPlace(), HueSaturationPicker::markerDiameter),

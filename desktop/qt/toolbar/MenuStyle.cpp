@@ -25,14 +25,14 @@ constexpr int kCheckmarkSide = 14;
 void drawSeparator(const QStyleOptionMenuItem& option, QPainter& painter) {
     const QRectF line(option.rect.left() + kGap, QRectF(option.rect).center().y() - 0.5,
                       option.rect.width() - 2 * kGap, 1);
-    painter.fillRect(line, toQColor(SemanticColor::primary.opacity(0.12), option.palette));
+    painter.fillRect(line, toQColor(SystemColor::labelColor.opacity(0.12), option.palette));
 }
 
 void drawEntry(const QStyleOptionMenuItem& option, QPainter& painter) {
     const bool isCurrent = option.state.testFlag(QStyle::State_Selected) &&
                            option.state.testFlag(QStyle::State_Enabled);
     const QColor foreground = isCurrent ? option.palette.color(QPalette::HighlightedText)
-                                        : toQColor(SemanticColor::primary, option.palette);
+                                        : toQColor(SystemColor::labelColor, option.palette);
     const qreal scale = painter.device()->devicePixelRatio();
     const QRect rect = option.rect;
     if (isCurrent) {

@@ -117,7 +117,7 @@ void PaletteMenuWidget::build(const LineWidthMenu& menu) {
     const auto addSymbol = [&](const std::string& name, qreal side) {
         auto* symbol = new QLabel;
         symbol->setPixmap(symbolPixmap(name, side, devicePixelRatioF(),
-                                       toQColor(SemanticColor::primary, palette())));
+                                       toQColor(SystemColor::labelColor, palette())));
         sliderRow->addWidget(symbol);
     };
     addSymbol(menu.slider.minimumIcon, kCaptionSize);

@@ -22,7 +22,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
-        QPainter(this).fillRect(rect(), toQColor(SemanticColor::primary.opacity(0.15), palette()));
+        QPainter(this).fillRect(rect(), toQColor(SystemColor::labelColor.opacity(0.15), palette()));
     }
 };
 

@@ -19,7 +19,7 @@ void PopupMenu::initStyleOption(QStyleOptionMenuItem* option, const QAction* act
     QMenu::initStyleOption(option, action);
     if (action && action == m_destructive) {
         option->palette.setColor(QPalette::WindowText,
-                                 toQColor(SemanticColor::red, option->palette));
+                                 toQColor(SystemColor::systemRedColor, option->palette));
     }
 }
 

@@ -31,8 +31,8 @@ void PresetButton::paintEvent(QPaintEvent* /*event*/) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     const bool isPointedAt = underMouse() || hasFocus();
-    painter.setBrush(
-        toQColor(isPointedAt ? SemanticColor::accent : SemanticColor::primary, palette()));
+    painter.setBrush(toQColor(
+        isPointedAt ? SystemColor::controlAccentColor : SystemColor::labelColor, palette()));
     const QRectF bar(0, (height() - m_thickness) / 2, width(), m_thickness);
     const qreal radius = qMin(LineWidthPreset::cornerRadius, m_thickness / 2);
     painter.drawRoundedRect(bar, radius, radius);

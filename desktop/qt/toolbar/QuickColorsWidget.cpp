@@ -33,7 +33,7 @@ protected:
         painter.setRenderHint(QPainter::Antialiasing);
         const qreal width = View::AddButton::borderLineWidth;
         const bool isPointedAt = underMouse() || hasFocus();
-        QPen border(toQColor(SemanticColor::primary, palette()), width);
+        QPen border(toQColor(SystemColor::labelColor, palette()), width);
         border.setDashPattern(
             {View::AddButton::dashLength / width, View::AddButton::dashLength / width});
         const QPointF center = QRectF(rect()).center();
@@ -41,11 +41,11 @@ protected:
         const qreal side = View::AddButton::fontSize * 1.15;
         painter.drawPixmap(center - QPointF(side, side) / 2,
                            symbolPixmap(View::AddButton::icon, side, devicePixelRatioF(),
-                                        toQColor(SemanticColor::secondary, palette())));
+                                        toQColor(SystemColor::secondaryLabelColor, palette())));
         if (isPointedAt) {
             painter.strokePath(
                 circle(center, View::AddButton::diameter + ColorSwatchView::ringMargin),
-                QPen(toQColor(SemanticColor::accent, palette()), 2));
+                QPen(toQColor(SystemColor::controlAccentColor, palette()), 2));
         }
     }
 };

@@ -63,7 +63,7 @@ void SwatchButton::paintEvent(QPaintEvent* /*event*/) {
     }
     if (underMouse() || hasFocus()) {
         painter.strokePath(circle(center, m_face.ringDiameter()),
-                           QPen(toQColor(SemanticColor::accent, palette()), 2));
+                           QPen(toQColor(SystemColor::controlAccentColor, palette()), 2));
     }
 }
 
