@@ -1,9 +1,10 @@
 // How long a motion of the pen takes to the screen, for this program and others, side by side.
 //
-//     pen-latency [--rounds 5] [--strokes 5] [--width 1920] [--height 1080]
+//     pen-latency [--rounds 5] [--strokes 5] [--width 1920] [--height 1080] [--rows]
 
 #include "bench/PenMeter.h"
 #include "bench/Pens.h"
+#include "bench/Report.h"
 #include "bench/Statistics.h"
 
 #include "desktop/support/ProbeWindow.h"
@@ -11,6 +12,7 @@
 
 #include <sys/prctl.h>
 
+#include <algorithm>
 #include <exception>
 #include <iostream>
 #include <stdexcept>
@@ -21,6 +23,9 @@ using namespace quillon::bench;
 namespace {
 
 constexpr test::Rgb kPaper{240, 240, 235};
+/// How much slower than the bare pen this program may be, and how much sooner than others it is.
+constexpr double kAboveFloor = 1.25;
+constexpr double kAheadOfPeers = 8;
 
 /// Waits until nothing but the paper stands on the screen, and has for a while: a compositor takes
 /// its time with a window that covers everything.
@@ -42,40 +47,60 @@ std::unique_ptr<test::ProbeWindow> layPaper(test::VirtualDesktop& desktop) {
     return std::make_unique<test::ProbeWindow>(desktop.display(), everywhere, kPaper);
 }
 
+/// What came of one program in each round.
+struct Findings {
+    std::vector<double> middles;
+    std::vector<double> worsts;
+    std::vector<double> missed;
+};
+
 /// Each round starts every program once, so that what befalls the machine befalls them all.
-std::vector<PenResult> measure(const std::vector<PenProgram>& programs, int rounds, int strokes,
-                               const test::VirtualDesktop::Options& screen) {
-    std::vector<PenResult> results(programs.size());
+std::vector<Findings> measure(const std::vector<PenProgram>& programs, int rounds, int strokes,
+                              const test::VirtualDesktop::Options& screen) {
+    std::vector<Findings> findings(programs.size());
     for (int round = 0; round < rounds; ++round) {
         for (std::size_t index = 0; index < programs.size(); ++index) {
             test::VirtualDesktop desktop(screen);
             const auto paper = layPaper(desktop);
-            std::cerr << "round " << round + 1 << ": " << programs[index].name << std::endl;
             const auto pen = programs[index].start(desktop);
             pen->switchOn();
             waitForPaper(desktop);
             PenMeter meter(desktop);
             meter.measurePage(*pen, 1);
             const PenResult result = meter.measurePage(*pen, strokes);
-            results[index].latency.add(result.latency);
-            results[index].missed += result.missed;
+            findings[index].middles.push_back(result.latency.percentile(50));
+            findings[index].worsts.push_back(result.latency.percentile(99));
+            findings[index].missed.push_back(result.missed);
         }
     }
-    return results;
+    return findings;
 }
 
-void print(const std::vector<PenProgram>& programs, const std::vector<PenResult>& results) {
-    const double floorMiddle = results.front().latency.percentile(50);
-    const double floorWorst = results.front().latency.percentile(99);
-    std::cout << head(
-        {"motion → pixel", "motions", "missed", "p50 ms", "p99 ms", "p50 ÷ bare", "p99 ÷ bare"});
+/// The floor stands first, and the program of this project right after it.
+void print(Report& report, const std::string& subject, const std::vector<PenProgram>& programs,
+           const std::vector<Findings>& all) {
+    const Findings& floor = all.at(0);
+    const Findings& ours = all.at(1);
     for (std::size_t index = 0; index < programs.size(); ++index) {
-        const PenResult& result = results[index];
-        const double middle = result.latency.percentile(50);
-        const double worst = result.latency.percentile(99);
-        std::cout << row({programs[index].name, std::to_string(result.latency.count()),
-                          std::to_string(result.missed), fixed(middle, 2), fixed(worst, 2),
-                          fixed(middle / floorMiddle, 2), fixed(worst / floorWorst, 2)});
+        const Findings& found = all[index];
+        const std::string& name = programs[index].name;
+        const auto role = programs[index].role;
+        const auto addTime = [&](const std::string& percentile, auto times) {
+            const std::string figure = name + ": motion → pixel, " + percentile;
+            report.add({subject, figure, "ms", found.*times});
+            if (role == PenProgram::Role::own) {
+                report.add({subject, figure + " ÷ bare pen", "×",
+                            ratios(found.*times, floor.*times), atMost(kAboveFloor)});
+            } else if (role == PenProgram::Role::peer) {
+                report.add({subject, figure + " ÷ quillon-mark", "×",
+                            ratios(found.*times, ours.*times), atLeast(kAheadOfPeers)});
+            }
+        };
+        addTime("p50", &Findings::middles);
+        addTime("p99", &Findings::worsts);
+        if (std::ranges::any_of(found.missed, [](double missed) { return missed > 0; })) {
+            report.add({subject, name + ": motions without a picture", "", found.missed});
+        }
     }
 }
 
@@ -91,8 +116,14 @@ int main(int count, char** arguments) {
         test::VirtualDesktop::Options screen;
         screen.width = option(options, "--width", screen.width);
         screen.height = option(options, "--height", screen.height);
-        print(programs, measure(programs, option(options, "--rounds", 5),
-                                option(options, "--strokes", 5), screen));
+        const bool isUsual = screen.width == test::VirtualDesktop::Options().width;
+        const std::string subject =
+            isUsual ? "pen"
+                    : "pen, " + std::to_string(screen.width) + "×" + std::to_string(screen.height);
+        Report report(options);
+        print(report, subject, programs,
+              measure(programs, option(options, "--rounds", 5), option(options, "--strokes", 5),
+                      screen));
         return 0;
     } catch (const std::exception& error) {
         std::cerr << "pen-latency: " << error.what() << '\n';

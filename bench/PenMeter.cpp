@@ -20,7 +20,7 @@ constexpr double kWaveLength = 300;
 /// Half the side of the square that is looked at; its nearest ink lies further away.
 constexpr int kReach = 4;
 
-constexpr std::chrono::milliseconds kPatience{500};
+constexpr std::chrono::milliseconds kPatience{5000};
 constexpr std::chrono::microseconds kPauseBetweenLooks{50};
 /// The pace of a mouse that reports 125 times a second.
 constexpr std::chrono::milliseconds kRest{8};
@@ -31,6 +31,11 @@ Pixel placeOn(int baseline, int motion) {
     return {x, baseline + static_cast<int>(std::lround(wave))};
 }
 
+/// In the middle of the stroke along the upper edge.
+Pixel witness() {
+    return placeOn(kMargin, kMotionsOfAStroke / 2);
+}
+
 } // namespace
 
 PenMeter::PenMeter(test::VirtualDesktop& desktop)
@@ -39,22 +44,30 @@ PenMeter::PenMeter(test::VirtualDesktop& desktop)
 
 PenResult PenMeter::measurePage(Pen& pen, int strokes) {
     PenResult result;
-    const Pixel witness = placeOn(kMargin, kMotionsOfAStroke / 2);
-    const Pixels blank = pixelsAround(witness);
+    m_blank = pixelsAround(witness());
     for (int stroke = 0; stroke < strokes; ++stroke) {
-        measureStroke(kMargin + stroke * kLineHeight, result);
+        measureStrokeAlong(kMargin + stroke * kLineHeight, result);
     }
-    if (pixelsAround(witness) == blank) {
+    if (pixelsAround(witness()) == m_blank) {
         throw std::runtime_error("the strokes left no ink");
     }
     pen.clear();
-    if (!test::eventually([&] { return pixelsAround(witness) == blank; })) {
-        throw std::runtime_error("the screen was not cleared");
-    }
+    awaitErased();
     return result;
 }
 
-void PenMeter::measureStroke(int baseline, PenResult& result) {
+void PenMeter::measureStroke(PenResult& result) {
+    m_blank = pixelsAround(witness());
+    measureStrokeAlong(kMargin, result);
+}
+
+void PenMeter::awaitErased() const {
+    if (!test::eventually([this] { return pixelsAround(witness()) == m_blank; }, kPatience)) {
+        throw std::runtime_error("the stroke does not go");
+    }
+}
+
+void PenMeter::measureStrokeAlong(int baseline, PenResult& result) {
     m_input.moveTo(placeOn(baseline, 0));
     m_input.press();
     std::this_thread::sleep_for(kRest);

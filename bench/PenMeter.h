@@ -31,18 +31,26 @@ class PenMeter {
 public:
     explicit PenMeter(test::VirtualDesktop& desktop);
 
+    /// Draws one wavy stroke of many motions along the upper edge.
+    void measureStroke(PenResult& result);
+
+    /// Waits until nothing of that stroke is to be seen.
+    void awaitErased() const;
+
     /// Fills the screen with `strokes` wavy strokes of many motions each, and clears it again.
     PenResult measurePage(Pen& pen, int strokes);
 
 private:
     using Pixels = std::vector<std::uint8_t>;
 
-    void measureStroke(int baseline, PenResult& result);
+    void measureStrokeAlong(int baseline, PenResult& result);
     std::optional<std::chrono::duration<double, std::milli>> timeMotion(test::Pixel place);
     Pixels pixelsAround(test::Pixel place) const;
 
     test::XConnection& m_connection;
     test::InputDriver m_input;
+    /// The screen in the middle of the upper edge, as it was before the last stroke there.
+    Pixels m_blank;
 };
 
 } // namespace quillon::bench

@@ -154,8 +154,8 @@ private:
 };
 
 template <typename T>
-PenProgram program(const std::string& name) {
-    return {name, [](VirtualDesktop& desktop) { return std::make_unique<T>(desktop); }};
+PenProgram program(const std::string& name, PenProgram::Role role) {
+    return {name, role, [](VirtualDesktop& desktop) { return std::make_unique<T>(desktop); }};
 }
 
 bool isInstalled(const std::string& name) {
@@ -172,16 +172,18 @@ bool isInstalled(const std::string& name) {
 } // namespace
 
 std::vector<PenProgram> penPrograms() {
-    std::vector<PenProgram> programs = {program<BarePen>("bare-pen"),
-                                        program<QuillonMark<Palette::shown>>("quillon-mark")};
+    std::vector<PenProgram> programs = {
+        program<BarePen>("bare pen", PenProgram::Role::floor),
+        program<QuillonMark<Palette::shown>>("quillon-mark", PenProgram::Role::own)};
     if (isInstalled("gromit-mpx")) {
-        programs.push_back(program<Gromit>("gromit-mpx"));
+        programs.push_back(program<Gromit>("gromit-mpx", PenProgram::Role::peer));
     }
     return programs;
 }
 
 PenProgram penWithoutPalette() {
-    return program<QuillonMark<Palette::hidden>>("quillon-mark without its palette");
+    return program<QuillonMark<Palette::hidden>>("quillon-mark without its palette",
+                                                 PenProgram::Role::own);
 }
 
 void startTray(VirtualDesktop& desktop) {

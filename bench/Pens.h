@@ -23,7 +23,10 @@ public:
 };
 
 struct PenProgram {
+    enum class Role { floor, own, peer };
+
     std::string name;
+    Role role;
     /// Done when the program can be switched on.
     std::function<std::unique_ptr<Pen>(test::VirtualDesktop&)> start;
 };

@@ -76,6 +76,12 @@ ProcessUsage ProcessUsage::since(const ProcessUsage& earlier) const {
     return used;
 }
 
+bool isAsleep(pid_t process) {
+    const std::string statistics = contentsOf(folderOf(process) + "/stat");
+    // The state follows the name, which stands in parentheses and may hold anything.
+    return statistics.at(statistics.rfind(')') + 2) == 'S';
+}
+
 ProcessMemory ProcessMemory::of(pid_t process) {
     const std::string pages = contentsOf(folderOf(process) + "/smaps_rollup");
     return {sumOf("Rss", pages), sumOf("Private_Clean", pages) + sumOf("Private_Dirty", pages)};

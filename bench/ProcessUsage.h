@@ -22,6 +22,9 @@ struct ProcessUsage {
     ProcessUsage since(const ProcessUsage& earlier) const;
 };
 
+/// Whether the main thread waits for something, and not for a processor.
+bool isAsleep(pid_t process);
+
 /// What a process holds in memory, in kilobytes.
 struct ProcessMemory {
     /// All resident pages.
