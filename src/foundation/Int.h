@@ -23,7 +23,7 @@ inline Int integerPart(double value) {
     constexpr double end = 9223372036854775808.0;
     // Written so that a value that is no number fails as well.
     if (!(value >= -end && value < end)) {
-        fatalError("a number is out of the range of integers");
+        fatalError("a number out of the range of integers has no integer part");
     }
     return static_cast<Int>(value);
 }
