@@ -149,7 +149,7 @@ std::optional<std::string> judge(const std::string& path, const Include& include
 
 bool isHostTree(const std::string& path) {
     return path.starts_with("desktop/") || path.starts_with("tests/desktop/") ||
-           path.starts_with("bench/");
+           path.starts_with("benchmarks/");
 }
 
 /// Lower case, without comments and blanks.

@@ -30,7 +30,7 @@ std::vector<Include> includesOf(std::string_view text);
 ///   SQLite in `storage/`, xcb not in `storage/`.
 /// - `tests/NAME/`: what `src/NAME/` may include, `src/NAME/` itself and `tests/support/`.
 /// - `tests/support/`: ports and foundation.
-/// - `tests/desktop/` and `bench/`: free.
+/// - `tests/desktop/` and `benchmarks/`: free.
 std::vector<std::string> brokenRules(const std::string& path, std::string_view text);
 
 /// The same for a CMake file: Qt's package, its code generators, and the packages of the display

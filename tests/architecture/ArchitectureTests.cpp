@@ -36,7 +36,7 @@ bool isSource(const std::filesystem::path& path) {
 
 TEST(Architecture, every_include_keeps_to_the_levels) {
     int files = 0;
-    forEachFile({"src", "desktop", "tests", "bench"}, [&](const auto& path, const auto& text) {
+    forEachFile({"src", "desktop", "tests", "benchmarks"}, [&](const auto& path, const auto& text) {
         if (isSource(path)) {
             ++files;
             for (const std::string& rule : brokenRules(path.string(), text)) {
@@ -71,7 +71,7 @@ TEST(Architecture, only_the_host_finds_its_packages) {
             }
         }
     };
-    forEachFile({"src", "desktop", "tests", "bench", "cmake"}, visit);
+    forEachFile({"src", "desktop", "tests", "benchmarks", "cmake"}, visit);
     std::ifstream root(kRoot / "CMakeLists.txt");
     visit("CMakeLists.txt", std::string(std::istreambuf_iterator<char>(root), {}));
     EXPECT_GT(files, 10) << "the walk must reach the build files";

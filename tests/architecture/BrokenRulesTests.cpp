@@ -118,7 +118,7 @@ TEST(BrokenRules, a_test_stands_where_its_folder_stands) {
 
 TEST(BrokenRules, tests_of_the_host_and_benchmarks_are_free) {
     EXPECT_FALSE(isBroken("tests/desktop/painting/A.cpp", "<QImage>"));
-    EXPECT_FALSE(isBroken("bench/A.cpp", "<xcb/xcb.h>"));
+    EXPECT_FALSE(isBroken("benchmarks/A.cpp", "<xcb/xcb.h>"));
 }
 
 TEST(BrokenBuildRules, the_packages_of_the_host_are_found_in_its_trees_alone) {

@@ -2,10 +2,10 @@
 //
 //     pen-latency [--rounds 5] [--strokes 5] [--width 1920] [--height 1080] [--rows]
 
-#include "bench/PenMeter.h"
-#include "bench/Pens.h"
-#include "bench/Report.h"
-#include "bench/Statistics.h"
+#include "benchmarks/PenMeter.h"
+#include "benchmarks/Pens.h"
+#include "benchmarks/Report.h"
+#include "benchmarks/Statistics.h"
 
 #include "desktop/support/ProbeWindow.h"
 #include "desktop/support/ScreenReader.h"

@@ -2,8 +2,8 @@
 //
 //     pointer-following [--moves 500] [--seconds 10]
 
-#include "bench/ProcessUsage.h"
-#include "bench/Statistics.h"
+#include "benchmarks/ProcessUsage.h"
+#include "benchmarks/Statistics.h"
 
 #include "desktop/support/InputDriver.h"
 #include "desktop/support/ProbeWindow.h"

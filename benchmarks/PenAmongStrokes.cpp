@@ -3,9 +3,9 @@
 //
 //     pen-among-strokes [--rounds 3] [--strokes 2] [--most 10000] [--rows]
 
-#include "bench/DrawnPage.h"
-#include "bench/PenMeter.h"
-#include "bench/Report.h"
+#include "benchmarks/DrawnPage.h"
+#include "benchmarks/PenMeter.h"
+#include "benchmarks/Report.h"
 
 #include <sys/prctl.h>
 

@@ -1,4 +1,4 @@
-#include "bench/core/Page.h"
+#include "benchmarks/core/Page.h"
 
 #include <cmath>
 #include <random>

@@ -1,4 +1,4 @@
-#include "bench/Statistics.h"
+#include "benchmarks/Statistics.h"
 
 #include <algorithm>
 #include <cmath>

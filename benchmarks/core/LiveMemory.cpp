@@ -1,4 +1,4 @@
-#include "bench/core/LiveMemory.h"
+#include "benchmarks/core/LiveMemory.h"
 
 #include <malloc.h>
 

@@ -3,8 +3,8 @@
 //
 //     start-time [--rounds 5] [--starts 5] [--rows]
 
-#include "bench/Report.h"
-#include "bench/Statistics.h"
+#include "benchmarks/Report.h"
+#include "benchmarks/Statistics.h"
 
 #include "desktop/support/Program.h"
 #include "desktop/support/ScreenReader.h"

@@ -3,9 +3,9 @@
 //
 //     idle-wakeups [--seconds 30]
 
-#include "bench/Pens.h"
-#include "bench/ProcessUsage.h"
-#include "bench/Statistics.h"
+#include "benchmarks/Pens.h"
+#include "benchmarks/ProcessUsage.h"
+#include "benchmarks/Statistics.h"
 
 #include <exception>
 #include <iostream>

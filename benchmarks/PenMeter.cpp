@@ -1,4 +1,4 @@
-#include "bench/PenMeter.h"
+#include "benchmarks/PenMeter.h"
 
 #include <cmath>
 #include <stdexcept>

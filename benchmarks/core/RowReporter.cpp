@@ -1,7 +1,7 @@
-#include "bench/core/RowReporter.h"
+#include "benchmarks/core/RowReporter.h"
 
-#include "bench/Statistics.h"
-#include "bench/core/Page.h"
+#include "benchmarks/Statistics.h"
+#include "benchmarks/core/Page.h"
 
 #include <optional>
 #include <utility>

@@ -3,7 +3,7 @@
 //
 //     palette-opening [--times 20]
 
-#include "bench/Statistics.h"
+#include "benchmarks/Statistics.h"
 
 #include "desktop/support/InputDriver.h"
 #include "desktop/support/Program.h"

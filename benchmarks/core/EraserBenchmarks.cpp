@@ -1,6 +1,6 @@
 #include "annotation/Eraser.h"
 #include "annotation/FinishedStrokesLayer.h"
-#include "bench/core/Pages.h"
+#include "benchmarks/core/Pages.h"
 #include "desktop/qt/QtGraphics.h"
 
 namespace quillon::bench {

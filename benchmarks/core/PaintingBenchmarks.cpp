@@ -1,6 +1,6 @@
 #include "annotation/FinishedStrokesLayer.h"
 #include "annotation/StrokeRenderer.h"
-#include "bench/core/Pages.h"
+#include "benchmarks/core/Pages.h"
 #include "desktop/qt/QtGraphics.h"
 
 namespace quillon::bench {

@@ -5,8 +5,8 @@
 //
 // Where xzoom is installed it shows the same film, as fast as it can be told to.
 
-#include "bench/ProcessUsage.h"
-#include "bench/Statistics.h"
+#include "benchmarks/ProcessUsage.h"
+#include "benchmarks/Statistics.h"
 
 #include "desktop/support/Canvas.h"
 #include "desktop/support/InputDriver.h"

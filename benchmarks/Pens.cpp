@@ -1,4 +1,4 @@
-#include "bench/Pens.h"
+#include "benchmarks/Pens.h"
 
 #include "desktop/support/InputDriver.h"
 #include "desktop/support/Program.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "bench/core/Page.h"
+#include "benchmarks/core/Page.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "bench/Report.h"
+#include "benchmarks/Report.h"
 
 #include <benchmark/benchmark.h>
 

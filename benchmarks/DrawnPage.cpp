@@ -1,6 +1,6 @@
-#include "bench/DrawnPage.h"
+#include "benchmarks/DrawnPage.h"
 
-#include "bench/ProcessUsage.h"
+#include "benchmarks/ProcessUsage.h"
 
 #include "desktop/support/StoredSettings.h"
 

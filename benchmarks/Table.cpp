@@ -2,7 +2,7 @@
 //
 //     { pen-latency --rows; lens-frames --rows; } | bench-table
 
-#include "bench/Report.h"
+#include "benchmarks/Report.h"
 
 #include <exception>
 #include <iostream>

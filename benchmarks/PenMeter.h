@@ -1,7 +1,7 @@
 #pragma once
 
-#include "bench/Pens.h"
-#include "bench/Statistics.h"
+#include "benchmarks/Pens.h"
+#include "benchmarks/Statistics.h"
 
 #include "desktop/support/InputDriver.h"
 #include "desktop/support/VirtualDesktop.h"

@@ -1,6 +1,6 @@
-#include "bench/Report.h"
+#include "benchmarks/Report.h"
 
-#include "bench/Statistics.h"
+#include "benchmarks/Statistics.h"
 
 #include <algorithm>
 #include <cmath>

@@ -3,10 +3,10 @@
 //     stroke-memory [--rows]
 
 #include "annotation/DrawingState.h"
-#include "bench/Report.h"
-#include "bench/Statistics.h"
-#include "bench/core/LiveMemory.h"
-#include "bench/core/Page.h"
+#include "benchmarks/Report.h"
+#include "benchmarks/Statistics.h"
+#include "benchmarks/core/LiveMemory.h"
+#include "benchmarks/core/Page.h"
 
 #include <exception>
 #include <iostream>

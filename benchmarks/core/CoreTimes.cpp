@@ -2,7 +2,7 @@
 //
 //     core-times [--rows] [any option of Google Benchmark, such as --benchmark_filter=eraser]
 
-#include "bench/core/RowReporter.h"
+#include "benchmarks/core/RowReporter.h"
 
 #include <exception>
 #include <iostream>

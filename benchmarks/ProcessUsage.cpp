@@ -1,4 +1,4 @@
-#include "bench/ProcessUsage.h"
+#include "benchmarks/ProcessUsage.h"
 
 #include <filesystem>
 #include <fstream>
