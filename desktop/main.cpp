@@ -104,7 +104,9 @@ int run(QApplication& application, xcb_connection_t* connection) {
              [&] { return windows.holdPointer() || QApplication::activePopupWidget(); }});
     QtWorkspace workspace;
     X11ScreenCapture screenCapture(
-        {qEnvironmentVariable("DISPLAY").toStdString(), mainQueue, qtFileWatch()}, [] {
+        {qEnvironmentVariable("DISPLAY").toStdString(), mainQueue, qtFileWatch(),
+         [&](const xcb_rectangle_t& rect) { return windows.hide(rect); }},
+        [] {
             const QScreen* primary = QGuiApplication::primaryScreen();
             return primary ? primary->devicePixelRatio() : 1;
         });

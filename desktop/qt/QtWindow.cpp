@@ -4,6 +4,7 @@
 #include "desktop/qt/TitledWindows.h"
 #include "desktop/x11/BlurBehind.h"
 #include "desktop/x11/WindowShape.h"
+#include "desktop/x11/XRectangles.h"
 
 #include <QGuiApplication>
 #include <QTimer>
@@ -37,6 +38,7 @@ QtWindow::QtWindow(Window& window, const Surroundings& surroundings)
     m_widget.onEditingChanged = [this] { giveBackKeyboardIfUnused(); };
     m_widget.onControlsPlaced = [this](const QRect& place) { blurBehind(place); };
     m_widget.onOutlined = [this](const QRegion& outline) { takeOutline(outline); };
+    m_surroundings.all.insert(this);
     setFrame(window.frame());
     followCompositor();
     setIgnoresMouseEvents(window.ignoresMouseEvents());
@@ -44,6 +46,7 @@ QtWindow::QtWindow(Window& window, const Surroundings& surroundings)
 
 QtWindow::~QtWindow() {
     noteGrab(false);
+    m_surroundings.all.erase(this);
 }
 
 void QtWindow::setFrame(const CGRect& frame) {
@@ -152,6 +155,11 @@ void QtWindow::orderOut() {
     m_keyboard.giveBack(nativeWindow());
     m_widget.hide();
     grabPointerIfNeeded();
+}
+
+bool QtWindow::hides(const xcb_rectangle_t& rect) const {
+    return m_window.isOpaque() && m_widget.isVisible() &&
+           contains(toXRectangle(m_placement.pixels()), rect);
 }
 
 void QtWindow::takeKeyboard() {

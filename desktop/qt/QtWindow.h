@@ -11,6 +11,7 @@
 #include <xcb/xcb.h>
 
 #include <optional>
+#include <set>
 
 namespace quillon::desktop {
 
@@ -28,6 +29,8 @@ public:
         CompositorWatch& compositor;
         /// How many windows hold the pointer as a whole.
         int& pointerHolders;
+        /// Those there are.
+        std::set<const QtWindow*>& all;
     };
 
     QtWindow(Window& window, const Surroundings& surroundings);
@@ -40,6 +43,10 @@ public:
     void orderFrontRegardless() override;
     void makeKeyAndOrderFront() override;
     void orderOut() override;
+
+    /// Whether it stands on the screen and hides all there is below a rectangle of the root window,
+    /// in device pixels.
+    bool hides(const xcb_rectangle_t& rect) const;
 
 private:
     /// A window that takes the pointer would bar the way to the titled windows. Called whenever it

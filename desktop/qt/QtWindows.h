@@ -1,9 +1,11 @@
 #pragma once
 
 #include "desktop/qt/QtTitledWindow.h"
+#include "desktop/qt/QtWindow.h"
 #include "desktop/x11/CompositorWatch.h"
 #include "platform/Window.h"
 
+#include <set>
 #include <utility>
 
 #include <xcb/xcb.h>
@@ -25,6 +27,11 @@ public:
     /// Whether a window has the pointer wherever on the screen that is.
     bool holdPointer() const { return m_pointerHolders > 0; }
 
+    /// Whether nothing but one of the windows is to be seen in a rectangle of the root window, in
+    /// device pixels. A window of another program above it is left out of account, and so are
+    /// titled windows.
+    bool hide(const xcb_rectangle_t& rect) const;
+
     /// To be given every event of the connection, in order. True when the event was meant for the
     /// windows and should go no further.
     bool handleEvent(const xcb_generic_event_t& event) { return m_compositor.handleEvent(event); }
@@ -35,6 +42,7 @@ private:
     ControlsLayout m_layOutControls;
     CompositorWatch m_compositor;
     int m_pointerHolders = 0;
+    std::set<const QtWindow*> m_windows;
 };
 
 } // namespace quillon::desktop

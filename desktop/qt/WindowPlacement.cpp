@@ -66,6 +66,17 @@ QSize WindowPlacement::size() const {
     return {qCeil(m_frame.width()), qCeil(m_frame.height())};
 }
 
+QRect WindowPlacement::pixels() const {
+    const QScreen* screen = screenOf(m_frame);
+    if (!screen) {
+        return {m_frame.topLeft().toPoint(), size()};
+    }
+    const qreal scale = screen->devicePixelRatio();
+    const QPointF corner =
+        devicePixelsFromDesktop(m_frame.topLeft(), screen->geometry().topLeft(), scale);
+    return {corner.toPoint(), (QSizeF(size()) * scale).toSize()};
+}
+
 bool WindowPlacement::onlyMoves() const {
     return m_widget.size() == size() && m_widget.screen() == screenOf(m_frame);
 }
@@ -79,12 +90,7 @@ void WindowPlacement::place(Stacking stacking) {
         resize();
     }
     m_isPlaced = true;
-    const QScreen* screen = screenOf(m_frame);
-    const QPoint corner =
-        screen ? devicePixelsFromDesktop(m_frame.topLeft(), screen->geometry().topLeft(),
-                                         screen->devicePixelRatio())
-                     .toPoint()
-               : m_frame.topLeft().toPoint();
+    const QPoint corner = pixels().topLeft();
     const std::array values{static_cast<std::uint32_t>(corner.x()),
                             static_cast<std::uint32_t>(corner.y()),
                             std::uint32_t{XCB_STACK_MODE_ABOVE}};

@@ -23,6 +23,8 @@ public:
     void setFrame(const CGRect& frame);
     /// Shows the window if it is hidden.
     void bringToFront();
+    /// Where the window stands in the root window, in device pixels, once it has followed.
+    QRect pixels() const;
 
 private:
     enum class Stacking { kept, onTop };

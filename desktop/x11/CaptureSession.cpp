@@ -2,6 +2,7 @@
 
 #include "desktop/x11/CaptureErrors.h"
 #include "desktop/x11/DisplayFrame.h"
+#include "desktop/x11/XRectangles.h"
 #include "desktop/x11/XcbHandles.h"
 
 #include <algorithm>
@@ -13,10 +14,6 @@ namespace {
 
 /// Between two frames where each one is costly, or taken on the chance that something has changed.
 constexpr double slowInterval = 1.0 / 15;
-
-bool equal(const xcb_rectangle_t& a, const xcb_rectangle_t& b) {
-    return a.x == b.x && a.y == b.y && a.width == b.width && a.height == b.height;
-}
 
 } // namespace
 
@@ -47,6 +44,7 @@ CaptureSession::CaptureSession(const CaptureSurroundings& surroundings, XcbConne
                                const PixelLayout& layout, double minimumFrameInterval)
     : m_mainQueue(surroundings.mainQueue)
     , m_displayName(surroundings.displayName)
+    , m_isOwnPicture(surroundings.isOwnPicture)
     , m_connection(std::move(connection))
     , m_root(rootWindow(m_connection.get()))
     , m_pixels(m_connection.get(), m_root, layout)
@@ -89,18 +87,20 @@ void CaptureSession::begin(const FileWatch& watch) {
     m_watch = watch(xcb_get_file_descriptor(m_connection.get()), [this] { handleEvents(); });
 }
 
-void CaptureSession::later(double seconds, void (CaptureSession::*step)()) {
-    m_mainQueue.get().asyncAfter(seconds, [weak = weak_from_this(), step] {
+void CaptureSession::later(double seconds, std::function<void(CaptureSession&)> step) {
+    m_mainQueue.get().asyncAfter(seconds, [weak = weak_from_this(), step = std::move(step)] {
         if (const auto session = weak.lock()) {
-            (session.get()->*step)();
+            step(*session);
         }
     });
 }
 
 void CaptureSession::handleEvents() {
     while (const XcbOwned<xcb_generic_event_t> event{xcb_poll_for_event(m_connection.get())}) {
-        if (m_damage && m_damage->isNotice(*event)) {
-            bookFrame();
+        if (const auto changed = m_damage ? m_damage->noticeIn(*event) : std::nullopt) {
+            if (overlap(*changed, m_display.frame)) {
+                bookFrame(m_isOwnPicture(*changed) ? FrameHaste::later : FrameHaste::now);
+            }
         } else if (tellsOfMonitors(m_connection.get(), *event) &&
                    !std::exchange(m_isCheckBooked, true)) {
             later(0, &CaptureSession::checkDisplay);
@@ -113,23 +113,37 @@ void CaptureSession::handleEvents() {
     }
 }
 
-void CaptureSession::bookFrame() {
-    if (!std::exchange(m_isFrameBooked, true)) {
-        later(m_pacer.book(m_mainQueue.get().now()), &CaptureSession::deliverFrame);
+void CaptureSession::bookFrame(FrameHaste haste) {
+    const double now = m_mainQueue.get().now();
+    const double due = m_pacer.due(now, haste);
+    if (m_due && *m_due <= due) {
+        return;
+    }
+    m_due = due;
+    later(due - now,
+          [booking = ++m_booking](CaptureSession& session) { session.deliverBooked(booking); });
+}
+
+void CaptureSession::deliverBooked(std::uint64_t booking) {
+    if (booking == m_booking && !m_reasonToEnd) {
+        deliverFrame();
     }
 }
 
 void CaptureSession::deliverFrame() {
-    m_isFrameBooked = false;
-    if (m_reasonToEnd) {
-        return;
-    }
+    m_due.reset();
     const bool hasChanged = takeDamage();
+    const bool isFrame = hasChanged || std::exchange(m_isFrameOwed, false);
+    if (isFrame) {
+        m_isFrameOwed = false;
+        m_pacer.spend(m_mainQueue.get().now());
+    }
+    // An answer to the question where the damage lay has brought along what came before it.
+    handleEvents();
     if (!m_damage) {
         bookFrame();
     }
-    if (hasChanged || std::exchange(m_isFrameOwed, false)) {
-        m_isFrameOwed = false;
+    if (isFrame) {
         m_frame(std::make_shared<DisplayFrame>(weak_from_this(), m_display.frame));
     }
 }
@@ -142,9 +156,7 @@ bool CaptureSession::takeDamage() {
         m_damage->take();
         return true;
     }
-    const bool hasChanged = m_damage->takeWithin(m_display.frame);
-    handleEvents();
-    return hasChanged;
+    return m_damage->takeWithin(m_display.frame);
 }
 
 void CaptureSession::checkDisplay() {

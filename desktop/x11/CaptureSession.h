@@ -8,6 +8,7 @@
 #include "desktop/x11/XcbConnection.h"
 #include "platform/ScreenCapture.h"
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -22,18 +23,24 @@ struct CaptureSurroundings {
     std::string displayName;
     std::reference_wrapper<MainQueue> mainQueue;
     FileWatch watch;
+    /// Whether all that stands in a rectangle of the root window, in device pixels, has been drawn
+    /// by this program.
+    std::function<bool(const xcb_rectangle_t&)> isOwnPicture;
 };
 
 /// A running capture of one display, over a connection of its own, which nothing of it outlives.
 ///
 /// The way of a frame:
-/// 1. something is drawn, and the server tells of the first damage after a rest;
-/// 2. a frame is booked with the pacer: for now, or for when the next one may come;
+/// 1. something is drawn, and the server tells of the damage;
+/// 2. a frame is booked for when the pacer lets it come. Where the receiver shows a frame, that
+///    itself is a change of the screen: its own picture is in no haste, and leaves the next slot to
+///    the next change that somebody else makes. Such a change brings a frame forward;
 /// 3. when it is due the damage is forgotten, so that the next change is told, and the frame is
 ///    handed over. No pixel has been read so far;
 /// 4. its receiver cuts out what it shows, and these pixels alone are read.
-/// While nothing is drawn nothing is booked. A server that cannot tell of damage is asked for a
-/// frame at every turn of a slower pace.
+/// While nothing is drawn nothing is booked: a receiver that draws nothing for a frame in which it
+/// finds nothing new is at rest one frame after the screen. A server that cannot tell of damage is
+/// asked for a frame at every turn of a slower pace.
 ///
 /// The end: when the display is not among the monitors any more, or the server does not answer, the
 /// end is told once, in a turn of its own.
@@ -59,10 +66,11 @@ private:
 
     bool findDisplay(CGDirectDisplayID display);
     void begin(const FileWatch& watch);
-    void later(double seconds, void (CaptureSession::*step)());
+    void later(double seconds, std::function<void(CaptureSession&)> step);
 
     void handleEvents();
-    void bookFrame();
+    void bookFrame(FrameHaste haste = FrameHaste::now);
+    void deliverBooked(std::uint64_t booking);
     void deliverFrame();
     bool takeDamage();
     void checkDisplay();
@@ -72,6 +80,7 @@ private:
 
     std::reference_wrapper<MainQueue> m_mainQueue;
     std::string m_displayName;
+    std::function<bool(const xcb_rectangle_t&)> m_isOwnPicture;
     XcbConnection m_connection;
     xcb_window_t m_root;
     RootPixels m_pixels;
@@ -85,7 +94,10 @@ private:
     std::optional<CaptureError> m_reasonToEnd;
     /// A frame is to come whatever has changed on the screen.
     bool m_isFrameOwed = true;
-    bool m_isFrameBooked = false;
+    /// When a frame comes; empty when none is booked.
+    std::optional<double> m_due;
+    /// Of the last booking. An earlier one that was brought forward has no effect.
+    std::uint64_t m_booking = 0;
     bool m_isCheckBooked = false;
     Cancellable m_watch;
 };

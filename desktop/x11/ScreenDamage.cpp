@@ -1,5 +1,6 @@
 #include "desktop/x11/ScreenDamage.h"
 
+#include "desktop/x11/XRectangles.h"
 #include "desktop/x11/XcbHandles.h"
 
 #include <xcb/damage.h>
@@ -8,15 +9,6 @@
 #include <algorithm>
 
 namespace quillon::desktop {
-
-namespace {
-
-bool overlap(const xcb_rectangle_t& a, const xcb_rectangle_t& b) {
-    return a.x < b.x + b.width && b.x < a.x + a.width && a.y < b.y + b.height &&
-           b.y < a.y + a.height;
-}
-
-} // namespace
 
 bool ScreenDamage::isOffered(xcb_connection_t* connection) {
     if (!xcb_get_extension_data(connection, &xcb_damage_id)->present ||
@@ -38,13 +30,15 @@ ScreenDamage::ScreenDamage(xcb_connection_t* connection, xcb_window_t root)
     , m_region(xcb_generate_id(connection))
     , m_noticeType(static_cast<std::uint8_t>(
           xcb_get_extension_data(connection, &xcb_damage_id)->first_event + XCB_DAMAGE_NOTIFY)) {
-    xcb_damage_create(connection, m_damage, root, XCB_DAMAGE_REPORT_LEVEL_NON_EMPTY);
+    xcb_damage_create(connection, m_damage, root, XCB_DAMAGE_REPORT_LEVEL_BOUNDING_BOX);
     xcb_xfixes_create_region(connection, m_region, 0, nullptr);
     xcb_flush(connection);
 }
 
-bool ScreenDamage::isNotice(const xcb_generic_event_t& event) const {
-    return eventType(event) == m_noticeType;
+std::optional<xcb_rectangle_t> ScreenDamage::noticeIn(const xcb_generic_event_t& event) const {
+    return eventType(event) == m_noticeType
+               ? std::optional(eventAs<xcb_damage_notify_event_t>(event).area)
+               : std::nullopt;
 }
 
 void ScreenDamage::take() {

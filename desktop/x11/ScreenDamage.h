@@ -3,15 +3,18 @@
 #include "desktop/x11/XcbHeaders.h"
 
 #include <cstdint>
+#include <optional>
 
 namespace quillon::desktop {
 
 /// Tells when something on the root window has changed, whoever drew it: a program, or a compositor
 /// in its name.
 ///
-/// 1. The first change after a rest is told by an event; those that follow it are not.
-/// 2. `take` looks where the changes were, forgets them, and the next change is told again.
-/// So a screen that changes without end costs one event for each `take`.
+/// 1. A change after a rest is told by an event, with the rectangle that it lies in.
+/// 2. Of those that follow it, only one that lies outside of that rectangle is told, by an event
+///    with a rectangle that holds them all.
+/// 3. `take` forgets all changes, and the next one is told again.
+/// So a screen that changes without end costs few events for each `take`.
 class ScreenDamage {
 public:
     /// Whether the server can tell of damage.
@@ -20,8 +23,8 @@ public:
     /// The server must offer it. The connection must outlive this and frees what was made over it.
     ScreenDamage(xcb_connection_t* connection, xcb_window_t root);
 
-    /// True when the event tells of a first change.
-    bool isNotice(const xcb_generic_event_t& event) const;
+    /// What holds all changes so far, in device pixels, when the event tells of a change.
+    std::optional<xcb_rectangle_t> noticeIn(const xcb_generic_event_t& event) const;
 
     /// Forgets all changes up to now.
     void take();

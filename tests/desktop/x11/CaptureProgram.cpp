@@ -1,5 +1,7 @@
 #include "desktop/x11/CaptureProgram.h"
 
+#include "desktop/x11/XRectangles.h"
+
 #include <poll.h>
 
 #include <stdexcept>
@@ -23,7 +25,9 @@ void FrameReceiver::streamDidStopWithError(SCStream& /*stream*/, const CaptureEr
 }
 
 CaptureProgram::CaptureProgram(const std::string& displayName)
-    : capture({displayName, queue, watch()}, [] { return 1.0; }) {}
+    : capture({displayName, queue, watch(),
+               [this](const xcb_rectangle_t& rect) { return desktop::contains(ownPicture, rect); }},
+              [] { return 1.0; }) {}
 
 ScreenCapture::ContentOutcome CaptureProgram::content() {
     std::optional<ScreenCapture::ContentOutcome> found;

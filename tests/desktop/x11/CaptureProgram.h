@@ -55,6 +55,8 @@ public:
     void catchUp(const FrameReceiver& receiver);
 
     HandTurnedQueue queue;
+    /// Where the program shows a picture of its own, in device pixels.
+    xcb_rectangle_t ownPicture{};
     /// How many files are being watched.
     std::size_t watchCount() const { return m_watched.size(); }
 

@@ -212,6 +212,71 @@ TEST(ScreenCapture, a_change_before_the_next_frame_is_due_is_shown_by_that_frame
     EXPECT_EQ(test.pixelAt(105, 55), 0xFF00FF00);
 }
 
+TEST(ScreenCapture, the_picture_that_the_program_makes_of_a_frame_takes_no_slot_of_a_film) {
+    CaptureTest test;
+    test.program.ownPicture = {400, 300, 200, 100};
+    Canvas picture(test.desktop.display(), {400, 300, 200, 100});
+    const auto stream = test.program.start(test.receiver);
+    test.program.queue.advance(1);
+    std::vector<std::uint32_t> shown;
+    test.receiver->onFrame = [&](SCStream&) { shown.push_back(test.pixelAt(105, 55)); };
+
+    std::vector<std::uint32_t> film;
+    for (std::uint32_t frame = 1; frame <= 60; ++frame) {
+        film.push_back(0xFF000000 | frame);
+        test.canvas.fill({0, 0, 10, 10}, frame);
+        test.program.catchUp(*test.receiver);
+        test.program.queue.advance(0.003);
+        picture.fill({0, 0, 200, 100}, frame);
+        test.program.catchUp(*test.receiver);
+        // The next change comes now a little before its slot, now a little after.
+        test.program.queue.advance((frame % 2 == 0 ? 0.9 : 1.1) / 60 - 0.003);
+    }
+
+    EXPECT_EQ(shown, film);
+}
+
+TEST(ScreenCapture, the_programs_own_picture_is_shown_half_a_slot_later_and_then_there_is_rest) {
+    CaptureTest test;
+    test.program.ownPicture = {400, 300, 200, 100};
+    Canvas picture(test.desktop.display(), {400, 300, 200, 100});
+    const auto stream = test.program.start(test.receiver);
+    test.program.queue.advance(1);
+    test.canvas.fill({0, 0, 10, 10}, 0xFF0000);
+    test.program.catchUp(*test.receiver);
+    const int before = test.receiver->frames;
+
+    picture.fill({0, 0, 200, 100}, 0x00FF00);
+    test.program.catchUp(*test.receiver);
+    test.program.queue.advance(1.4 / 60);
+    EXPECT_EQ(test.receiver->frames, before);
+    test.program.queue.advance(0.2 / 60);
+    EXPECT_EQ(test.receiver->frames, before + 1);
+    EXPECT_EQ(test.pixelAt(410, 310), 0xFF00FF00);
+
+    test.program.catchUp(*test.receiver);
+    test.program.queue.advance(60);
+    EXPECT_EQ(test.receiver->frames, before + 1);
+    EXPECT_TRUE(test.program.queue.isIdle());
+}
+
+TEST(ScreenCapture, a_change_beside_the_programs_own_picture_is_in_haste) {
+    CaptureTest test;
+    test.program.ownPicture = {400, 300, 200, 100};
+    Canvas picture(test.desktop.display(), {390, 300, 220, 100});
+    const auto stream = test.program.start(test.receiver);
+    test.program.queue.advance(1);
+    test.canvas.fill({0, 0, 10, 10}, 0xFF0000);
+    test.program.catchUp(*test.receiver);
+    const int before = test.receiver->frames;
+
+    picture.fill({0, 0, 220, 100}, 0x00FF00);
+    test.program.catchUp(*test.receiver);
+    test.program.queue.advance(1.0 / 60);
+
+    EXPECT_EQ(test.receiver->frames, before + 1);
+}
+
 TEST(ScreenCapture, a_change_that_comes_while_a_frame_is_read_is_not_missed) {
     CaptureTest test;
     const auto stream = test.program.start(test.receiver);
