@@ -71,6 +71,10 @@ QColor popupMaterial(const QPalette& palette) {
     return isDark(palette) ? QColor(44, 44, 48, 248) : QColor(250, 250, 252, 248);
 }
 
+QColor separator(const QPalette& palette) {
+    return toQColor(SystemColor::labelColor.opacity(0.12), palette);
+}
+
 QColor hairline(const QPalette& palette) {
     return isDark(palette) ? QColor(0, 0, 0, 120) : QColor(0, 0, 0, 38);
 }

@@ -25,6 +25,8 @@ QColor toQColor(const SystemColor& color, const QPalette& palette);
 QColor panelMaterial(const QPalette& palette);
 /// The nearly opaque material of menus and popovers, which are read at leisure.
 QColor popupMaterial(const QPalette& palette);
+/// The thin line between two parts.
+QColor separator(const QPalette& palette);
 /// The line round a panel or a popup.
 QColor hairline(const QPalette& palette);
 

@@ -4,6 +4,7 @@
 #include "desktop/qt/QtImages.h"
 #include "desktop/qt/settings/Look.h"
 #include "desktop/qt/settings/RoleLabel.h"
+#include "desktop/qt/widgets/Divider.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -44,17 +45,6 @@ private:
     SystemColor m_tint;
 };
 
-/// The line across the page.
-class Divider : public QWidget {
-public:
-    Divider() { setFixedHeight(1); }
-
-protected:
-    void paintEvent(QPaintEvent* /*event*/) override {
-        QPainter(this).fillRect(rect(), look::hairline(palette()));
-    }
-};
-
 QWidget* makeText(const std::string& string, const QFont& font, SystemColor role) {
     auto* label = new RoleLabel(role);
     label->setText(QString::fromStdString(string));
@@ -82,7 +72,7 @@ AboutWidget::AboutWidget(const AboutPage& page, QWidget* parent)
                       Qt::AlignHCenter);
     column->addWidget(makeText(page.purpose, look::headline(), SystemColor::secondaryLabelColor), 0,
                       Qt::AlignHCenter);
-    column->addWidget(new Divider);
+    column->addWidget(Divider::across());
 
     auto* facts = new QWidget;
     auto* lines = new QVBoxLayout(facts);

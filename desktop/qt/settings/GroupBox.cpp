@@ -1,5 +1,6 @@
 #include "desktop/qt/settings/GroupBox.h"
 
+#include "desktop/qt/Appearance.h"
 #include "desktop/qt/settings/Look.h"
 
 #include <QPainter>
@@ -28,13 +29,13 @@ void GroupBox::addRow(QWidget* row) {
 void GroupBox::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(look::hairline(palette()), 1));
+    painter.setPen(QPen(separator(palette()), 1));
     painter.setBrush(look::group(palette()));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kCornerRadius,
                             kCornerRadius);
     for (int index = 1; index < m_rows->count(); ++index) {
         const int y = m_rows->itemAt(index)->geometry().top();
-        painter.fillRect(kRowInset, y, width() - 2 * kRowInset, 1, look::hairline(palette()));
+        painter.fillRect(kRowInset, y, width() - 2 * kRowInset, 1, separator(palette()));
     }
 }
 

@@ -3,26 +3,12 @@
 #include "desktop/qt/Appearance.h"
 #include "desktop/qt/settings/Look.h"
 #include "desktop/qt/settings/TabButtonWidget.h"
+#include "desktop/qt/widgets/Divider.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
 
 namespace quillon::desktop {
-
-namespace {
-
-/// The vertical line between two tabs.
-class TabDividerWidget : public QWidget {
-public:
-    TabDividerWidget() { setFixedSize(1, qRound(TabDivider::height)); }
-
-protected:
-    void paintEvent(QPaintEvent* /*event*/) override {
-        QPainter(this).fillRect(rect(), look::hairline(palette()));
-    }
-};
-
-} // namespace
 
 TabStripWidget::TabStripWidget(const TabStrip& strip, std::function<void(SettingsTab)> onSelect,
                                QWidget* parent)
@@ -33,7 +19,7 @@ TabStripWidget::TabStripWidget(const TabStrip& strip, std::function<void(Setting
     for (const auto& item : strip.items) {
         const auto* button = std::get_if<TabButton>(&item);
         if (!button) {
-            layout->addWidget(new TabDividerWidget, 0, Qt::AlignVCenter);
+            layout->addWidget(Divider::upright(TabDivider::height), 0, Qt::AlignVCenter);
             continue;
         }
         auto* widget = new TabButtonWidget(*button);
@@ -56,7 +42,7 @@ void TabStripWidget::follow(const TabStrip& strip) {
 void TabStripWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.fillRect(rect(), toQColor(SystemColor::windowBackgroundColor, palette()));
-    painter.fillRect(0, height() - 1, width(), 1, look::hairline(palette()));
+    painter.fillRect(0, height() - 1, width(), 1, separator(palette()));
 }
 
 } // namespace quillon::desktop

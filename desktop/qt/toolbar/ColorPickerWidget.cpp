@@ -6,6 +6,7 @@
 #include "desktop/qt/toolbar/HueSaturationWidget.h"
 #include "desktop/qt/toolbar/QuickColorsWidget.h"
 #include "desktop/qt/toolbar/SwatchButton.h"
+#include "desktop/qt/widgets/Divider.h"
 
 #include <QFontDatabase>
 #include <QPainter>
@@ -46,17 +47,6 @@ private:
     const ColorPickerView& m_picker;
 };
 
-/// A thin line across.
-class Divider : public QWidget {
-public:
-    Divider() { setFixedHeight(1); }
-
-protected:
-    void paintEvent(QPaintEvent* /*event*/) override {
-        QPainter(this).fillRect(rect(), toQColor(SystemColor::labelColor.opacity(0.12), palette()));
-    }
-};
-
 } // namespace
 
 ColorPickerWidget::ColorPickerWidget(std::unique_ptr<ColorPickerView> picker, QWidget& parent)
@@ -74,7 +64,7 @@ ColorPickerWidget::ColorPickerWidget(std::unique_ptr<ColorPickerView> picker, QW
     column->addWidget(m_wheel);
     addChannel([this] { return m_picker->brightnessChannel(); }, *column);
     addChannel([this] { return m_picker->opacityChannel(); }, *column);
-    column->addWidget(new Divider);
+    column->addWidget(Divider::across());
     addQuickColors(*column);
     addCurrentColor(*column);
     follow();

@@ -25,7 +25,7 @@ constexpr int kCheckmarkSide = 14;
 void drawSeparator(const QStyleOptionMenuItem& option, QPainter& painter) {
     const QRectF line(option.rect.left() + kGap, QRectF(option.rect).center().y() - 0.5,
                       option.rect.width() - 2 * kGap, 1);
-    painter.fillRect(line, toQColor(SystemColor::labelColor.opacity(0.12), option.palette));
+    painter.fillRect(line, separator(option.palette));
 }
 
 void drawEntry(const QStyleOptionMenuItem& option, QPainter& painter) {

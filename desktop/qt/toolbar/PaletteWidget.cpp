@@ -1,9 +1,9 @@
 #include "desktop/qt/toolbar/PaletteWidget.h"
 
-#include "desktop/qt/Appearance.h"
 #include "desktop/qt/toolbar/ColorPopover.h"
 #include "desktop/qt/toolbar/PaletteAccessibility.h"
 #include "desktop/qt/toolbar/ToolbarButtonWidget.h"
+#include "desktop/qt/widgets/Divider.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -14,17 +14,6 @@
 namespace quillon::desktop {
 
 namespace {
-
-/// A thin upright line.
-class Divider : public QWidget {
-public:
-    explicit Divider(const PaletteDivider& divider) { setFixedSize(1, qRound(divider.height)); }
-
-protected:
-    void paintEvent(QPaintEvent* /*event*/) override {
-        QPainter(this).fillRect(rect(), toQColor(SystemColor::labelColor.opacity(0.15), palette()));
-    }
-};
 
 /// The controls of one child of the row; a divider has none.
 std::vector<PaletteControl> controlsOf(const PaletteChild& child) {
@@ -60,7 +49,7 @@ void PaletteWidget::layOut(const PaletteRow& row) {
 
     for (const PaletteChild& child : row.children) {
         if (const auto* divider = std::get_if<PaletteDivider>(&child)) {
-            layout->addWidget(new Divider(*divider));
+            layout->addWidget(Divider::upright(divider->height));
             continue;
         }
         const auto* group = std::get_if<PaletteGroup>(&child);

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QWidget>
+
+namespace quillon::desktop {
+
+/// A thin line between two parts of a layout.
+class Divider : public QWidget {
+public:
+    /// Between what stands above and what stands below, as wide as the layout.
+    static Divider* across();
+    /// Between what stands left and what stands right, `height` points high.
+    static Divider* upright(qreal height);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Divider() = default;
+};
+
+} // namespace quillon::desktop
