@@ -1,7 +1,7 @@
 #include "desktop/qt/settings/BorderlessButton.h"
 
-#include "desktop/qt/settings/FocusRing.h"
 #include "desktop/qt/settings/Look.h"
+#include "desktop/qt/widgets/FocusRing.h"
 
 #include <QPainter>
 

@@ -2,7 +2,8 @@
 
 #include "desktop/qt/Appearance.h"
 #include "desktop/qt/QtConversions.h"
-#include "desktop/qt/settings/FocusRing.h"
+#include "desktop/qt/settings/Look.h"
+#include "desktop/qt/widgets/FocusRing.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -83,8 +84,7 @@ void RecorderWidget::paintEvent(QPaintEvent* /*event*/) {
     painter.setPen(toQColor(title.textColor, palette()));
     painter.drawText(rect(), Qt::AlignCenter, QString::fromStdString(title.stringValue));
     if (FocusRing::isShown(*this) && !m_control->isRecording()) {
-        const QRectF inside = QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5);
-        FocusRing::paint(painter, inside, radius - 2.5, palette());
+        FocusRing::paintInside(painter, rect(), radius, palette());
     }
 }
 

@@ -1,8 +1,7 @@
 #include "desktop/qt/settings/StopSlider.h"
 
-#include "desktop/qt/Appearance.h"
-#include "desktop/qt/settings/FocusRing.h"
 #include "desktop/qt/settings/Look.h"
+#include "desktop/qt/widgets/FocusRing.h"
 
 #include <QLineF>
 #include <QMouseEvent>

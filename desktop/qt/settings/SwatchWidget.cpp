@@ -1,8 +1,8 @@
 #include "desktop/qt/settings/SwatchWidget.h"
 
 #include "desktop/qt/QtConversions.h"
-#include "desktop/qt/settings/FocusRing.h"
 #include "desktop/qt/settings/Look.h"
+#include "desktop/qt/widgets/FocusRing.h"
 
 #include <QColorDialog>
 #include <QPainter>

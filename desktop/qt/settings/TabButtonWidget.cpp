@@ -3,7 +3,8 @@
 #include "desktop/qt/Appearance.h"
 #include "desktop/qt/QtConversions.h"
 #include "desktop/qt/QtImages.h"
-#include "desktop/qt/settings/FocusRing.h"
+#include "desktop/qt/settings/Look.h"
+#include "desktop/qt/widgets/FocusRing.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -14,6 +15,7 @@ namespace {
 
 /// A glyph is a little larger than the font of its size.
 constexpr int kSymbolSize = 20;
+constexpr qreal kFocusRadius = 6;
 
 QFont textFont() {
     return systemFont(TabButton::textFontSize);
@@ -58,7 +60,7 @@ void TabButtonWidget::paintEvent(QPaintEvent* /*event*/) {
     painter.drawText(QRect(0, textTop, width(), height() - textTop),
                      Qt::AlignHCenter | Qt::AlignTop | Qt::TextSingleLine, m_label);
     if (FocusRing::isShown(*this)) {
-        FocusRing::paint(painter, QRectF(rect()).adjusted(3, 3, -3, -3), 4, palette());
+        FocusRing::paintInside(painter, rect(), kFocusRadius, palette());
     }
 }
 

@@ -3,6 +3,7 @@
 #include "desktop/qt/Appearance.h"
 #include "desktop/qt/QtConversions.h"
 #include "desktop/qt/toolbar/Ring.h"
+#include "desktop/qt/widgets/FocusRing.h"
 
 #include <QConicalGradient>
 #include <QKeyEvent>
@@ -90,9 +91,9 @@ void HueSaturationWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.drawImage(square().topLeft(), m_wheel);
-    if (hasFocus()) {
-        painter.strokePath(circle(square().center(), square().width() - 2),
-                           QPen(toQColor(SystemColor::controlAccentColor, palette()), 2));
+    if (FocusRing::isShown(*this)) {
+        FocusRing::stroke(
+            painter, circle(square().center(), square().width() - FocusRing::lineWidth), palette());
     }
     paintRing(
         painter, circle(markerPlace(), HueSaturationPicker::markerDiameter),

@@ -30,6 +30,8 @@ void MenuFocus::addRow(const std::vector<QWidget*>& row) {
 
 void MenuFocus::goTo(QWidget& control) {
     m_menu.setActiveAction(nullptr);
+    // The toolkit marks a window as worked by keys at tab alone.
+    m_menu.setAttribute(Qt::WA_KeyboardFocusChange);
     control.setFocus(Qt::TabFocusReason);
 }
 

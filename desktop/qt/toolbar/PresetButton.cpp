@@ -1,6 +1,7 @@
 #include "desktop/qt/toolbar/PresetButton.h"
 
 #include "desktop/qt/Appearance.h"
+#include "desktop/qt/widgets/FocusRing.h"
 
 #include <QPainter>
 
@@ -30,7 +31,7 @@ void PresetButton::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    const bool isPointedAt = underMouse() || hasFocus();
+    const bool isPointedAt = underMouse() || FocusRing::isShown(*this);
     painter.setBrush(toQColor(
         isPointedAt ? SystemColor::controlAccentColor : SystemColor::labelColor, palette()));
     const QRectF bar(0, (height() - m_thickness) / 2, width(), m_thickness);

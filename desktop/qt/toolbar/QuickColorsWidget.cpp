@@ -4,6 +4,7 @@
 #include "desktop/qt/toolbar/PopupMenu.h"
 #include "desktop/qt/toolbar/Ring.h"
 #include "desktop/qt/toolbar/SwatchButton.h"
+#include "desktop/qt/widgets/FocusRing.h"
 
 #include <QContextMenuEvent>
 #include <QPainter>
@@ -32,7 +33,6 @@ protected:
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         const qreal width = View::AddButton::borderLineWidth;
-        const bool isPointedAt = underMouse() || hasFocus();
         QPen border(toQColor(SystemColor::labelColor, palette()), width);
         border.setDashPattern(
             {View::AddButton::dashLength / width, View::AddButton::dashLength / width});
@@ -42,10 +42,10 @@ protected:
         painter.drawPixmap(center - QPointF(side, side) / 2,
                            symbolPixmap(View::AddButton::icon, side, devicePixelRatioF(),
                                         toQColor(SystemColor::secondaryLabelColor, palette())));
-        if (isPointedAt) {
-            painter.strokePath(
-                circle(center, View::AddButton::diameter + ColorSwatchView::ringMargin),
-                QPen(toQColor(SystemColor::controlAccentColor, palette()), 2));
+        if (underMouse() || FocusRing::isShown(*this)) {
+            FocusRing::stroke(
+                painter, circle(center, View::AddButton::diameter + ColorSwatchView::ringMargin),
+                palette());
         }
     }
 };

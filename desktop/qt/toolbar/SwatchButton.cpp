@@ -4,6 +4,7 @@
 #include "desktop/qt/QtConversions.h"
 #include "desktop/qt/toolbar/Panel.h"
 #include "desktop/qt/toolbar/Ring.h"
+#include "desktop/qt/widgets/FocusRing.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -61,9 +62,8 @@ void SwatchButton::paintEvent(QPaintEvent* /*event*/) {
                   QPen(toQColor(ColorSwatchView::ringColor), ColorSwatchView::ringLineWidth),
                   ColorSwatchView::ringShadow);
     }
-    if (underMouse() || hasFocus()) {
-        painter.strokePath(circle(center, m_face.ringDiameter()),
-                           QPen(toQColor(SystemColor::controlAccentColor, palette()), 2));
+    if (underMouse() || FocusRing::isShown(*this)) {
+        FocusRing::stroke(painter, circle(center, m_face.ringDiameter()), palette());
     }
 }
 

@@ -3,6 +3,7 @@
 #include "desktop/qt/Appearance.h"
 #include "desktop/qt/PopupWatch.h"
 #include "desktop/qt/QtConversions.h"
+#include "desktop/qt/widgets/FocusRing.h"
 
 #include <QCursor>
 #include <QFocusEvent>
@@ -229,9 +230,7 @@ void ToolbarButtonWidget::paintFace(QPainter& painter) const {
     painter.setBrush(toQColor(button.background(), palette()));
     painter.drawRoundedRect(frame, radius, radius);
     if (m_showsFocus) {
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(frame.adjusted(1, 1, -1, -1), radius, radius);
+        FocusRing::paintInside(painter, frame, radius, palette());
     }
 
     const QColor foreground = toQColor(button.foregroundColor(), palette());
