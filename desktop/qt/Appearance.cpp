@@ -75,6 +75,10 @@ QColor separator(const QPalette& palette) {
     return toQColor(SystemColor::labelColor.opacity(0.12), palette);
 }
 
+QColor emptyTrack(const QPalette& palette) {
+    return toQColor(SystemColor::labelColor.opacity(0.18), palette);
+}
+
 QColor hairline(const QPalette& palette) {
     return isDark(palette) ? QColor(0, 0, 0, 120) : QColor(0, 0, 0, 38);
 }

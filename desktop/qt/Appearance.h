@@ -27,6 +27,8 @@ QColor panelMaterial(const QPalette& palette);
 QColor popupMaterial(const QPalette& palette);
 /// The thin line between two parts.
 QColor separator(const QPalette& palette);
+/// The empty part of a switch or a slider.
+QColor emptyTrack(const QPalette& palette);
 /// The line round a panel or a popup.
 QColor hairline(const QPalette& palette);
 

@@ -4,12 +4,13 @@
 #include "desktop/qt/QtImages.h"
 #include "desktop/qt/settings/ColorCircle.h"
 #include "desktop/qt/settings/Look.h"
-#include "desktop/qt/settings/PickerWidget.h"
 #include "desktop/qt/settings/ShortcutRowWidget.h"
-#include "desktop/qt/settings/StopSlider.h"
 #include "desktop/qt/settings/SwatchWidget.h"
 #include "desktop/qt/settings/SwitchWidget.h"
+#include "desktop/qt/settings/Unscrolled.h"
+#include "desktop/qt/widgets/Slider.h"
 
+#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -88,7 +89,7 @@ struct RowMaker {
     }
 
     FormRowWidgets operator()(const PickerRow& row) const {
-        auto* picker = new PickerWidget;
+        auto* picker = new Unscrolled<QComboBox>;
         picker->setAccessibleName(text(row.title));
         picker->setFont(look::body());
         for (const auto& entry : row.entries) {
@@ -105,7 +106,7 @@ struct RowMaker {
     }
 
     FormRowWidgets operator()(const SliderRow& row) const {
-        auto* slider = new StopSlider(row.lastStop());
+        auto* slider = new Unscrolled<Slider>(row.lastStop());
         slider->setAccessibleName(text(row.label));
         slider->setFixedWidth(qRound(row.sliderWidth));
         slider->setValue(row.stop());

@@ -2,7 +2,6 @@
 
 #include "desktop/qt/Appearance.h"
 #include "desktop/qt/QtConversions.h"
-#include "desktop/qt/settings/Look.h"
 #include "desktop/qt/widgets/FocusRing.h"
 
 #include <QKeyEvent>

@@ -1,7 +1,6 @@
 #include "desktop/qt/settings/SwatchWidget.h"
 
 #include "desktop/qt/QtConversions.h"
-#include "desktop/qt/settings/Look.h"
 #include "desktop/qt/widgets/FocusRing.h"
 
 #include <QColorDialog>

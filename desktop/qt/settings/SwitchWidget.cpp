@@ -1,5 +1,6 @@
 #include "desktop/qt/settings/SwitchWidget.h"
 
+#include "desktop/qt/Appearance.h"
 #include "desktop/qt/settings/Look.h"
 #include "desktop/qt/widgets/FocusRing.h"
 
@@ -36,7 +37,7 @@ void SwitchWidget::paintEvent(QPaintEvent* /*event*/) {
 
     painter.setPen(Qt::NoPen);
     painter.setBrush(isChecked() ? toQColor(SystemColor::controlAccentColor, palette())
-                                 : look::track(palette()));
+                                 : emptyTrack(palette()));
     painter.drawRoundedRect(track, radius, radius);
 
     QRectF knob = track.adjusted(kKnobInset, kKnobInset, -kKnobInset, -kKnobInset);

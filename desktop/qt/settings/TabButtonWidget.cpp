@@ -3,7 +3,6 @@
 #include "desktop/qt/Appearance.h"
 #include "desktop/qt/QtConversions.h"
 #include "desktop/qt/QtImages.h"
-#include "desktop/qt/settings/Look.h"
 #include "desktop/qt/widgets/FocusRing.h"
 
 #include <QFontMetrics>

@@ -82,7 +82,7 @@ void ColorPickerWidget::addChannel(std::function<Channel()> channel, QVBoxLayout
     auto* percentage = new CaptionLabel({});
     row->addWidget(percentage);
     group->addLayout(row);
-    auto* slider = new SliderWidget({0, 1, 0}, first.value, *this);
+    auto* slider = new BoundSlider({0, 1, 0}, first.value, *this);
     slider->setAccessibleName(QString::fromStdString(first.title));
     group->addWidget(slider);
     column.addLayout(group);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/qt/SliderWidget.h"
+#include "desktop/qt/toolbar/BoundSlider.h"
 #include "toolbar/FloatingToolbarView.h"
 
 #include <QLabel>
@@ -32,7 +32,7 @@ private:
     struct ChannelControls {
         std::function<Channel()> channel;
         QLabel* percentage;
-        SliderWidget* slider;
+        BoundSlider* slider;
     };
 
     void addChannel(std::function<Channel()> channel, QVBoxLayout& column);

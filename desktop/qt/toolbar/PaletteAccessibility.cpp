@@ -1,6 +1,6 @@
 #include "desktop/qt/toolbar/PaletteAccessibility.h"
 
-#include "desktop/qt/SliderWidget.h"
+#include "desktop/qt/toolbar/BoundSlider.h"
 #include "desktop/qt/toolbar/HueSaturationWidget.h"
 #include "desktop/qt/toolbar/PaletteWidget.h"
 #include "desktop/qt/toolbar/ToolbarButtonWidget.h"
@@ -15,7 +15,7 @@ namespace {
 /// A slider with its own range and value instead of its positions.
 class SliderAccessible : public QAccessibleWidget, public QAccessibleValueInterface {
 public:
-    explicit SliderAccessible(SliderWidget& slider)
+    explicit SliderAccessible(BoundSlider& slider)
         : QAccessibleWidget(&slider, QAccessible::Slider)
         , m_slider(slider) {}
 
@@ -33,7 +33,7 @@ public:
     QVariant minimumStepSize() const override { return m_slider.range().step; }
 
 private:
-    SliderWidget& m_slider;
+    BoundSlider& m_slider;
 };
 
 /// A button that says by its role and its state that it opens a menu.
@@ -60,7 +60,7 @@ private:
 };
 
 QAccessibleInterface* describe(const QString& /*className*/, QObject* object) {
-    if (auto* slider = dynamic_cast<SliderWidget*>(object)) {
+    if (auto* slider = dynamic_cast<BoundSlider*>(object)) {
         return new SliderAccessible(*slider);
     }
     if (auto* wheel = dynamic_cast<HueSaturationWidget*>(object)) {

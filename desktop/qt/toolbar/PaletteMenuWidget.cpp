@@ -2,7 +2,7 @@
 
 #include "desktop/qt/Appearance.h"
 #include "desktop/qt/QtImages.h"
-#include "desktop/qt/SliderWidget.h"
+#include "desktop/qt/toolbar/BoundSlider.h"
 #include "desktop/qt/toolbar/CaptionLabel.h"
 #include "desktop/qt/toolbar/PresetButton.h"
 #include "desktop/qt/toolbar/SwatchButton.h"
@@ -108,8 +108,8 @@ void PaletteMenuWidget::build(const LineWidthMenu& menu) {
     column->setSpacing(qRound(LineWidthMenu::spacing));
     m_heading = new CaptionLabel(QString::fromStdString(menu.heading));
     column->addWidget(m_heading, 0, Qt::AlignLeft);
-    m_slider = new SliderWidget({menu.slider.minimum, menu.slider.maximum, menu.slider.step},
-                                menu.slider.value, *widget);
+    m_slider = new BoundSlider({menu.slider.minimum, menu.slider.maximum, menu.slider.step},
+                               menu.slider.value, *widget);
     m_slider->setAccessibleName(QString::fromStdString(menu.slider.accessibilityLabel));
     m_slider->setFixedWidth(qRound(menu.slider.width));
 

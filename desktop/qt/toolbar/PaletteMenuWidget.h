@@ -10,7 +10,7 @@ class QLabel;
 
 namespace quillon::desktop {
 
-class SliderWidget;
+class BoundSlider;
 
 /// One of the palette's menus on the screen. A choice closes it; the slider leaves it open.
 class PaletteMenuWidget : public PopupMenu {
@@ -39,7 +39,7 @@ private:
     QWidget* m_firstControl = nullptr;
     QAction* m_firstEntry = nullptr;
     QLabel* m_heading = nullptr;
-    SliderWidget* m_slider = nullptr;
+    BoundSlider* m_slider = nullptr;
 };
 
 } // namespace quillon::desktop

@@ -1,7 +1,5 @@
 #include "desktop/qt/PaletteFixture.h"
 
-#include "desktop/qt/SliderWidget.h"
-
 #include <QAbstractButton>
 #include <QMenu>
 

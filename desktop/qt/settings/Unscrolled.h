@@ -1,14 +1,14 @@
 #pragma once
 
-#include <QComboBox>
 #include <QWheelEvent>
 
 namespace quillon::desktop {
 
-/// A menu of entries that shows the chosen one. The wheel leaves it alone.
-class PickerWidget : public QComboBox {
+/// A control that leaves the wheel alone: a page that scrolls under the pointer changes no setting.
+template <typename Control>
+class Unscrolled : public Control {
 public:
-    using QComboBox::QComboBox;
+    using Control::Control;
 
 protected:
     void wheelEvent(QWheelEvent* event) override { event->ignore(); }
