@@ -79,6 +79,10 @@ QColor emptyTrack(const QPalette& palette) {
     return toQColor(SystemColor::labelColor.opacity(0.18), palette);
 }
 
+QColor outline(const QPalette& palette) {
+    return toQColor(SystemColor::labelColor.opacity(0.28), palette);
+}
+
 QColor hairline(const QPalette& palette) {
     return isDark(palette) ? QColor(0, 0, 0, 120) : QColor(0, 0, 0, 38);
 }

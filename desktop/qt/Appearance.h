@@ -29,6 +29,8 @@ QColor popupMaterial(const QPalette& palette);
 QColor separator(const QPalette& palette);
 /// The empty part of a switch or a slider.
 QColor emptyTrack(const QPalette& palette);
+/// The line around a control or a colour.
+QColor outline(const QPalette& palette);
 /// The line round a panel or a popup.
 QColor hairline(const QPalette& palette);
 

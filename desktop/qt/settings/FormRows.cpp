@@ -1,14 +1,15 @@
 #include "desktop/qt/settings/FormRows.h"
 
 #include "desktop/qt/Appearance.h"
+#include "desktop/qt/QtConversions.h"
 #include "desktop/qt/QtImages.h"
-#include "desktop/qt/settings/ColorCircle.h"
 #include "desktop/qt/settings/Look.h"
 #include "desktop/qt/settings/ShortcutRowWidget.h"
 #include "desktop/qt/settings/SwatchWidget.h"
 #include "desktop/qt/settings/SwitchWidget.h"
 #include "desktop/qt/settings/Unscrolled.h"
 #include "desktop/qt/widgets/Slider.h"
+#include "desktop/qt/widgets/Swatch.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -137,9 +138,16 @@ struct RowMaker {
     }
 
     FormRowWidgets operator()(const ColorPickerRow& row) const {
-        auto* circle = new ColorCircle(row);
+        const QSizeF size(ColorPickerRow::circleSize.width, ColorPickerRow::circleSize.height);
+        auto* circle = new Swatch({size, size.width() / 2,
+                                   toQColor(Color::white.opacity(ColorPickerRow::ringOpacity)),
+                                   ColorPickerRow::ringWidth});
         circle->setAccessibleName(text(row.title));
-        return {makeRow(row.title, {circle}), [circle] { circle->refresh(); }};
+        const auto refresh = [circle, color = row.color] {
+            circle->setColor(toQColor(color.get()));
+        };
+        refresh();
+        return {makeRow(row.title, {circle}), refresh};
     }
 
     FormRowWidgets operator()(const ShortcutRow& row) const {

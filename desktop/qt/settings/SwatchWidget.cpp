@@ -2,10 +2,10 @@
 
 #include "desktop/qt/QtConversions.h"
 #include "desktop/qt/widgets/FocusRing.h"
+#include "desktop/qt/widgets/PaintSwatch.h"
 
 #include <QColorDialog>
 #include <QPainter>
-#include <QPainterPath>
 #include <QSignalBlocker>
 
 #include <utility>
@@ -15,19 +15,6 @@ namespace quillon::desktop {
 namespace {
 
 constexpr qreal kCornerRadius = 5;
-constexpr int kCheck = 4;
-
-/// What shows through a colour that is not opaque.
-void paintChecks(QPainter& painter, const QRect& area) {
-    painter.fillRect(area, Qt::white);
-    for (int y = area.top(); y <= area.bottom(); y += kCheck) {
-        for (int x = area.left(); x <= area.right(); x += kCheck) {
-            if (((x - area.left()) / kCheck + (y - area.top()) / kCheck) % 2 == 1) {
-                painter.fillRect(x, y, kCheck, kCheck, QColor(200, 200, 200));
-            }
-        }
-    }
-}
 
 /// In double precision: single falls short of the hundredths and of the steps of 255 that the
 /// palette shows truncated.
@@ -72,16 +59,7 @@ void SwatchWidget::paintEvent(QPaintEvent* /*event*/) {
     painter.setRenderHint(QPainter::Antialiasing);
     const QRect well =
         rect().adjusted(FocusRing::room, FocusRing::room, -FocusRing::room, -FocusRing::room);
-    QPainterPath shape;
-    shape.addRoundedRect(well, kCornerRadius, kCornerRadius);
-    painter.save();
-    painter.setClipPath(shape);
-    paintChecks(painter, well);
-    painter.fillRect(well, toQColor(m_shown));
-    painter.restore();
-    painter.setPen(QPen(look::outline(palette()), 1));
-    painter.drawRoundedRect(QRectF(well).adjusted(0.5, 0.5, -0.5, -0.5), kCornerRadius - 0.5,
-                            kCornerRadius - 0.5);
+    paintSwatch(painter, well, kCornerRadius, toQColor(m_shown), palette());
     if (FocusRing::isShown(*this)) {
         FocusRing::paint(painter, well, kCornerRadius, palette());
     }

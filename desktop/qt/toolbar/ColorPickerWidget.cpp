@@ -1,16 +1,13 @@
 #include "desktop/qt/toolbar/ColorPickerWidget.h"
 
-#include "desktop/qt/Appearance.h"
 #include "desktop/qt/QtConversions.h"
 #include "desktop/qt/toolbar/CaptionLabel.h"
 #include "desktop/qt/toolbar/HueSaturationWidget.h"
 #include "desktop/qt/toolbar/QuickColorsWidget.h"
-#include "desktop/qt/toolbar/SwatchButton.h"
 #include "desktop/qt/widgets/Divider.h"
+#include "desktop/qt/widgets/Swatch.h"
 
 #include <QFontDatabase>
-#include <QPainter>
-#include <QPainterPath>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -20,32 +17,6 @@ namespace quillon::desktop {
 namespace {
 
 using View = ColorPickerView;
-
-/// The current colour, in a frame.
-class CurrentColor : public QWidget {
-public:
-    explicit CurrentColor(const ColorPickerView& picker)
-        : m_picker(picker) {
-        setFixedSize(qRound(View::currentSwatchSize.width), qRound(View::currentSwatchSize.height));
-    }
-
-protected:
-    void paintEvent(QPaintEvent* /*event*/) override {
-        QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        QPainterPath figure;
-        figure.addRoundedRect(rect(), View::currentSwatchCornerRadius,
-                              View::currentSwatchCornerRadius);
-        painter.setClipPath(figure);
-        fillWithColor(painter, figure, toQColor(m_picker.selectedColor()));
-        for (const QColor& color : {hairline(palette()), toQColor(View::currentSwatchBorder)}) {
-            painter.strokePath(figure, QPen(color, 2 * View::currentSwatchBorderWidth));
-        }
-    }
-
-private:
-    const ColorPickerView& m_picker;
-};
 
 } // namespace
 
@@ -105,7 +76,10 @@ void ColorPickerWidget::addCurrentColor(QVBoxLayout& column) {
     auto* row = new QHBoxLayout;
     row->addWidget(new CaptionLabel(View::currentTitle));
     row->addStretch();
-    m_current = new CurrentColor(*m_picker);
+    m_current = new Swatch({{View::currentSwatchSize.width, View::currentSwatchSize.height},
+                            View::currentSwatchCornerRadius,
+                            toQColor(View::currentSwatchBorder),
+                            View::currentSwatchBorderWidth});
     row->addWidget(m_current);
     m_hex = new CaptionLabel({});
     QFont monospaced = QFontDatabase::systemFont(QFontDatabase::FixedFont);
@@ -127,7 +101,7 @@ void ColorPickerWidget::follow() {
         }
     }
     m_quickColors->follow(m_picker->quickColorCells());
-    m_current->update();
+    m_current->setColor(toQColor(m_picker->selectedColor()));
     m_hex->setText(QString::fromStdString(m_picker->selectedHex()));
 }
 

@@ -17,6 +17,7 @@ namespace quillon::desktop {
 
 class HueSaturationWidget;
 class QuickColorsWidget;
+class Swatch;
 
 /// The content of the colour popover on the screen.
 class ColorPickerWidget : public QWidget {
@@ -43,7 +44,7 @@ private:
     HueSaturationWidget* m_wheel;
     std::vector<ChannelControls> m_channels;
     QuickColorsWidget* m_quickColors = nullptr;
-    QWidget* m_current = nullptr;
+    Swatch* m_current = nullptr;
     QLabel* m_hex = nullptr;
 };
 

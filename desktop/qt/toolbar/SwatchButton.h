@@ -20,7 +20,4 @@ private:
     ColorSwatchView m_face;
 };
 
-/// A colour as a figure is filled with it: on a chequered ground where it is translucent.
-void fillWithColor(QPainter& painter, const QPainterPath& figure, const QColor& color);
-
 } // namespace quillon::desktop
