@@ -1,14 +1,25 @@
 // What a program costs that nobody uses at the moment: how often it wakes up, its time on the
 // processor, and its memory.
 //
-//     idle-wakeups [--seconds 30]
+//     idle-wakeups [--rounds 2] [--seconds 30] [--rows]
 
 #include "benchmarks/Pens.h"
 #include "benchmarks/ProcessUsage.h"
+#include "benchmarks/Projecteur.h"
+#include "benchmarks/Report.h"
+#include "benchmarks/ScreenPart.h"
 #include "benchmarks/Statistics.h"
 
+#include "desktop/support/InputDriver.h"
+#include "desktop/support/Program.h"
+#include "desktop/support/VirtualDesktop.h"
+
 #include <exception>
+#include <functional>
 #include <iostream>
+#include <memory>
+#include <optional>
+#include <stdexcept>
 #include <thread>
 
 using namespace quillon;
@@ -18,40 +29,211 @@ namespace {
 
 /// What follows a start is no idleness.
 constexpr std::chrono::seconds kSettling{3};
+constexpr std::chrono::milliseconds kSwitching{700};
+constexpr test::Pixel kPointer{960, 500};
+constexpr int kHeightOfPanel = 30;
+constexpr double kMostResident = 45;
+constexpr double kMostUnique = 20;
 
-void measure(const std::string& state, const Pen& pen, int seconds) {
-    std::this_thread::sleep_for(kSettling);
-    const ProcessUsage before = ProcessUsage::of(pen.process());
-    std::this_thread::sleep_for(std::chrono::seconds(seconds));
-    const ProcessUsage used = ProcessUsage::of(pen.process()).since(before);
-    const ProcessMemory memory = ProcessMemory::of(pen.process());
-    const auto megabytes = [](long kilobytes) {
-        return fixed(static_cast<double>(kilobytes) / 1024, 1);
+/// A program that rests on a desktop with a tray. They can all rest at the same time.
+class Sleeper {
+public:
+    explicit Sleeper(std::string name)
+        : m_name(std::move(name)) {
+        m_desktop.startTray();
+        m_input.moveTo(kPointer);
+    }
+    virtual ~Sleeper() = default;
+
+    const std::string& name() const { return m_name; }
+    virtual pid_t process() = 0;
+    /// Whether it is the program of this project, with nothing switched on.
+    virtual bool hasTargets() const { return false; }
+
+protected:
+    test::VirtualDesktop& desktop() { return m_desktop; }
+    test::InputDriver& input() { return m_input; }
+
+private:
+    std::string m_name;
+    /// Without a pointer in its picture, which then tells by itself what was switched.
+    test::VirtualDesktop m_desktop{{.hasCursor = false}};
+    test::InputDriver m_input{m_desktop.connection()};
+};
+
+class QuillonMark : public Sleeper {
+public:
+    explicit QuillonMark(const std::string& state)
+        : Sleeper("quillon-mark, " + state)
+        , m_program(desktop()) {
+        std::this_thread::sleep_for(kSwitching);
+    }
+
+    pid_t process() override { return m_program.process().pid(); }
+    bool hasTargets() const override { return m_isOff; }
+
+    /// Switches a feature on or off by the last key of its shortcut.
+    void toggle(std::string_view key) {
+        const auto before = screen();
+        input().chord({"Super_L", "Shift_L", key});
+        m_isOff = !m_isOff;
+        std::this_thread::sleep_for(kSwitching);
+        // What follows the pointer comes with its next move.
+        input().moveTo({kPointer.x + 1, kPointer.y});
+        input().moveTo(kPointer);
+        std::this_thread::sleep_for(kSwitching);
+        if (screen() == before) {
+            throw std::runtime_error(name() + ": nothing is switched");
+        }
+    }
+
+    void draw() { input().drag({{300, 300}, {900, 700}, {1500, 400}}); }
+
+private:
+    /// All of it below the panel.
+    std::vector<std::uint8_t> screen() {
+        const auto& root = desktop().connection().screen();
+        return screenPart(desktop().connection(), 0, kHeightOfPanel, root.width_in_pixels,
+                          root.height_in_pixels - kHeightOfPanel);
+    }
+
+    test::Program m_program;
+    bool m_isOff = true;
+};
+
+std::unique_ptr<Sleeper> trayOnly() {
+    return std::make_unique<QuillonMark>("tray only");
+}
+
+/// Switched on and off again by the last key of a shortcut.
+std::unique_ptr<Sleeper> usedBefore(const std::string& feature, std::string_view key) {
+    auto program = std::make_unique<QuillonMark>("after " + feature);
+    program->toggle(key);
+    program->toggle(key);
+    return program;
+}
+
+class Peer : public Sleeper {
+public:
+    explicit Peer(const PenProgram& program)
+        : Sleeper(program.name + ", tray only")
+        , m_pen(program.start(desktop())) {}
+
+    pid_t process() override { return m_pen->process(); }
+
+private:
+    std::unique_ptr<Pen> m_pen;
+};
+
+class SleepingProjecteur : public Sleeper {
+public:
+    SleepingProjecteur()
+        : Sleeper("projecteur, tray only") {}
+
+    pid_t process() override { return m_projecteur.process(); }
+
+private:
+    Projecteur m_projecteur{desktop()};
+};
+
+/// With a drawing on the screen and the pen in the hand.
+std::unique_ptr<Sleeper> drawing() {
+    auto program = std::make_unique<QuillonMark>("drawing");
+    program->toggle("s");
+    program->draw();
+    return program;
+}
+
+using Make = std::function<std::unique_ptr<Sleeper>()>;
+
+std::vector<Make> peers() {
+    std::vector<Make> all;
+    for (const PenProgram& program : penPrograms()) {
+        if (program.role == PenProgram::Role::peer) {
+            all.emplace_back([program] { return std::make_unique<Peer>(program); });
+        }
+    }
+    if (Projecteur::isInstalled()) {
+        all.emplace_back([] { return std::make_unique<SleepingProjecteur>(); });
+    }
+    return all;
+}
+
+/// One after the other: what two programs share counts for neither as its own.
+void measureMemory(Report& report, const std::vector<Make>& programs, int rounds) {
+    constexpr double megabyte = 1024;
+    for (const Make& make : programs) {
+        std::vector<double> resident;
+        std::vector<double> unique;
+        std::string name;
+        bool hasTargets = false;
+        for (int round = 0; round < rounds; ++round) {
+            const auto sleeper = make();
+            std::this_thread::sleep_for(kSettling);
+            const ProcessMemory memory = ProcessMemory::of(sleeper->process());
+            resident.push_back(static_cast<double>(memory.resident) / megabyte);
+            unique.push_back(static_cast<double>(memory.unique) / megabyte);
+            name = sleeper->name();
+            hasTargets = sleeper->hasTargets();
+        }
+        const auto target = [&](double value) {
+            return hasTargets ? std::optional(atMost(value)) : std::nullopt;
+        };
+        report.add({"memory", name + ": RSS", "MB", resident, target(kMostResident)});
+        report.add({"memory", name + ": USS", "MB", unique, target(kMostUnique)});
+    }
+}
+
+/// All at the same time: who sleeps is not disturbed by others that do.
+void countWakeUps(Report& report, const std::vector<Make>& programs, int rounds, int seconds) {
+    struct Counted {
+        std::unique_ptr<Sleeper> sleeper;
+        std::vector<double> wakeUps = {};
+        std::vector<double> ticks = {};
     };
-    std::cout << row({state, std::to_string(used.contextSwitches),
-                      std::to_string(used.processorTicks), megabytes(memory.resident),
-                      megabytes(memory.unique)})
-              << std::flush;
+    std::vector<Counted> all;
+    for (const Make& make : programs) {
+        all.push_back({make()});
+    }
+    for (int round = 0; round < rounds; ++round) {
+        std::this_thread::sleep_for(kSettling);
+        std::vector<ProcessUsage> before;
+        for (const auto& each : all) {
+            before.push_back(ProcessUsage::of(each.sleeper->process()));
+        }
+        std::this_thread::sleep_for(std::chrono::seconds(seconds));
+        for (std::size_t index = 0; index < all.size(); ++index) {
+            Counted& each = all[index];
+            const ProcessUsage used =
+                ProcessUsage::of(each.sleeper->process()).since(before[index]);
+            each.wakeUps.push_back(static_cast<double>(used.contextSwitches));
+            each.ticks.push_back(static_cast<double>(used.processorTicks));
+        }
+    }
+    const std::string span = " in " + std::to_string(seconds) + " s";
+    for (const auto& [sleeper, wakeUps, ticks] : all) {
+        const auto none = sleeper->hasTargets() ? std::optional(atMost(0)) : std::nullopt;
+        report.add({"idle", sleeper->name() + ": wake-ups" + span, "", wakeUps, none});
+        report.add({"idle", sleeper->name() + ": processor ticks" + span, "", ticks, none});
+    }
 }
 
 } // namespace
 
 int main(int count, char** arguments) {
     try {
-        const int seconds = option({arguments + 1, arguments + count}, "--seconds", 30);
-        std::cout << head({"idle for " + std::to_string(seconds) + " s", "wake-ups",
-                           "processor ticks", "RSS MB", "USS MB"});
-        auto programs = penPrograms();
-        // The bare pen knows no tray.
-        programs.erase(programs.begin());
-        for (const PenProgram& program : programs) {
-            test::VirtualDesktop desktop;
-            startTray(desktop);
-            const auto pen = program.start(desktop);
-            measure(program.name + ", tray only", *pen, seconds);
-            pen->switchOn();
-            measure(program.name + ", drawing on", *pen, seconds);
-        }
+        const std::vector<std::string> options(arguments + 1, arguments + count);
+        const int rounds = option(options, "--rounds", 2);
+        const int seconds = option(options, "--seconds", 30);
+        Report report(options);
+        auto programs = peers();
+        programs.insert(programs.begin(), {trayOnly, drawing});
+        measureMemory(report, programs, rounds);
+        programs.insert(programs.begin() + 1, {[] { return usedBefore("annotation", "s"); },
+                                               [] { return usedBefore("the halo", "h"); },
+                                               [] { return usedBefore("the spotlight", "l"); },
+                                               [] { return usedBefore("the lens", "x"); }});
+        countWakeUps(report, programs, rounds, seconds);
         return 0;
     } catch (const std::exception& error) {
         std::cerr << "idle-wakeups: " << error.what() << '\n';

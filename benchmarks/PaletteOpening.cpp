@@ -1,8 +1,9 @@
 // How long the palette's menus and its popover take from the press to their first picture, and how
 // soon the palette follows a drag.
 //
-//     palette-opening [--times 20]
+//     palette-opening [--rounds 3] [--times 7] [--rows]
 
+#include "benchmarks/Report.h"
 #include "benchmarks/Statistics.h"
 
 #include "desktop/support/InputDriver.h"
@@ -13,6 +14,7 @@
 
 #include <chrono>
 #include <exception>
+#include <functional>
 #include <iostream>
 #include <memory>
 #include <stdexcept>
@@ -103,18 +105,21 @@ private:
     std::unique_ptr<test::Program> m_program;
 };
 
-void print(const std::string& name, const Samples& samples) {
-    std::cout << row({name, std::to_string(samples.count()), fixed(samples.percentile(50), 1),
-                      fixed(samples.percentile(100), 1)});
-}
+/// One figure of the palette, with its median in each round.
+struct Figure {
+    std::string name;
+    std::function<Samples(OpenedPalette&)> measure;
+    std::vector<double> rounds = {};
+};
 
-void measure(OpenedPalette& palette, const std::string& name, int times, int control, int button,
-             Pixel place) {
-    Samples opening;
-    for (int time = 0; time < times; ++time) {
-        opening.add(palette.open(control, button, place));
-    }
-    print(name, opening);
+Figure opening(const std::string& name, int times, int control, int button, Pixel place) {
+    return {name + ": press → picture", [=](OpenedPalette& palette) {
+                Samples samples;
+                for (int time = 0; time < times; ++time) {
+                    samples.add(palette.open(control, button, place));
+                }
+                return samples;
+            }};
 }
 
 } // namespace
@@ -124,15 +129,26 @@ int main(int count, char** arguments) {
     using namespace quillon::bench;
     try {
         const std::vector<std::string> options(arguments + 1, arguments + count);
-        const int times = option(options, "--times", 20);
-        quillon::test::VirtualDesktop desktop(quillon::test::VirtualDesktop::Options{});
-        OpenedPalette palette(desktop);
-        std::cout << head({"press → picture", "times", "p50 ms", "longest ms"});
-        measure(palette, "tools", times, -192, 1, {kPalette.x - 192 + 60, kPanelY});
-        measure(palette, "colours", times, -125, 1, {kPalette.x - 125 + 180, kPanelY});
-        measure(palette, "widths", times, -58, 1, {kPalette.x - 58 + 120, kPanelY});
-        measure(palette, "any colour", times, -125, 3, {kPalette.x + 120, kPanelY + 6});
-        print("a motion of a drag", palette.drag(50));
+        const int rounds = option(options, "--rounds", 3);
+        const int times = option(options, "--times", 7);
+        std::vector<Figure> figures = {
+            opening("tools", times, -192, 1, {kPalette.x - 192 + 60, kPanelY}),
+            opening("colours", times, -125, 1, {kPalette.x - 125 + 180, kPanelY}),
+            opening("widths", times, -58, 1, {kPalette.x - 58 + 120, kPanelY}),
+            opening("any colour", times, -125, 3, {kPalette.x + 120, kPanelY + 6}),
+            {"motion of a drag → palette", [](OpenedPalette& palette) { return palette.drag(50); }},
+        };
+        for (int round = 0; round < rounds; ++round) {
+            quillon::test::VirtualDesktop desktop;
+            OpenedPalette palette(desktop);
+            for (Figure& figure : figures) {
+                figure.rounds.push_back(figure.measure(palette).percentile(50));
+            }
+        }
+        Report report(options);
+        for (const Figure& figure : figures) {
+            report.add({"palette", figure.name, "ms", figure.rounds});
+        }
         return 0;
     } catch (const std::exception& error) {
         std::cerr << "palette-opening: " << error.what() << '\n';

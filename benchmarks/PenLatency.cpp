@@ -2,6 +2,7 @@
 //
 //     pen-latency [--rounds 5] [--strokes 5] [--width 1920] [--height 1080] [--rows]
 
+#include "benchmarks/ChosenScreen.h"
 #include "benchmarks/PenMeter.h"
 #include "benchmarks/Pens.h"
 #include "benchmarks/Report.h"
@@ -113,15 +114,9 @@ int main(int count, char** arguments) {
         prctl(PR_SET_TIMERSLACK, 1);
         auto programs = penPrograms();
         programs.push_back(penWithoutPalette());
-        test::VirtualDesktop::Options screen;
-        screen.width = option(options, "--width", screen.width);
-        screen.height = option(options, "--height", screen.height);
-        const bool isUsual = screen.width == test::VirtualDesktop::Options().width;
-        const std::string subject =
-            isUsual ? "pen"
-                    : "pen, " + std::to_string(screen.width) + "×" + std::to_string(screen.height);
+        const auto screen = screenOf(options);
         Report report(options);
-        print(report, subject, programs,
+        print(report, subjectOn("pen", screen), programs,
               measure(programs, option(options, "--rounds", 5), option(options, "--strokes", 5),
                       screen));
         return 0;

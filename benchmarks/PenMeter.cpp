@@ -1,5 +1,7 @@
 #include "benchmarks/PenMeter.h"
 
+#include "benchmarks/ScreenPart.h"
+
 #include <cmath>
 #include <stdexcept>
 #include <thread>
@@ -97,23 +99,8 @@ std::optional<std::chrono::duration<double, std::milli>> PenMeter::timeMotion(Pi
 }
 
 PenMeter::Pixels PenMeter::pixelsAround(Pixel place) const {
-    constexpr std::uint16_t side = 2 * kReach + 1;
-    const auto cookie =
-        xcb_get_image(m_connection.get(), XCB_IMAGE_FORMAT_Z_PIXMAP, m_connection.root(),
-                      static_cast<std::int16_t>(place.x - kReach),
-                      static_cast<std::int16_t>(place.y - kReach), side, side, ~0U);
-    const test::XOwned<xcb_get_image_reply_t> image(
-        xcb_get_image_reply(m_connection.get(), cookie, nullptr));
-    if (!image) {
-        throw std::runtime_error("the screen cannot be read");
-    }
-    const std::uint8_t* const data = xcb_get_image_data(image.get());
-    Pixels pixels(data, data + xcb_get_image_data_length(image.get()));
-    // The fourth byte of a pixel is nobody's, and changes when nothing is seen to.
-    for (std::size_t unused = 3; unused < pixels.size(); unused += 4) {
-        pixels[unused] = 0;
-    }
-    return pixels;
+    constexpr int side = 2 * kReach + 1;
+    return screenPart(m_connection, place.x - kReach, place.y - kReach, side, side);
 }
 
 } // namespace quillon::bench

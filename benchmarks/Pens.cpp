@@ -158,6 +158,8 @@ PenProgram program(const std::string& name, PenProgram::Role role) {
     return {name, role, [](VirtualDesktop& desktop) { return std::make_unique<T>(desktop); }};
 }
 
+} // namespace
+
 bool isInstalled(const std::string& name) {
     const char* path = std::getenv("PATH");
     std::istringstream folders(path ? path : "");
@@ -168,8 +170,6 @@ bool isInstalled(const std::string& name) {
     }
     return false;
 }
-
-} // namespace
 
 std::vector<PenProgram> penPrograms() {
     std::vector<PenProgram> programs = {

@@ -38,6 +38,9 @@ std::vector<PenProgram> penPrograms();
 /// The one of this project with its palette hidden.
 PenProgram penWithoutPalette();
 
+/// Whether a program stands on the path.
+bool isInstalled(const std::string& name);
+
 /// Puts a panel with a tray and nothing else on the desktop.
 void startTray(test::VirtualDesktop& desktop);
 

@@ -1,5 +1,7 @@
 #include "benchmarks/ProcessUsage.h"
 
+#include <time.h>
+
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -49,6 +51,15 @@ long ticksOf(const std::string& statistics) {
     return user + system;
 }
 
+double secondsOf(pid_t process) {
+    clockid_t clock{};
+    timespec time{};
+    if (clock_getcpuclockid(process, &clock) != 0 || clock_gettime(clock, &time) != 0) {
+        throw std::runtime_error("the time of a process cannot be read");
+    }
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
+}
+
 } // namespace
 
 ProcessUsage ProcessUsage::of(pid_t process) {
@@ -61,6 +72,7 @@ ProcessUsage ProcessUsage::of(pid_t process) {
         usage.contextSwitchesByThread[thread.path().filename()] = switches;
     }
     usage.processorTicks = ticksOf(contentsOf(folderOf(process) + "/stat"));
+    usage.processorSeconds = secondsOf(process);
     return usage;
 }
 
@@ -73,6 +85,7 @@ ProcessUsage ProcessUsage::since(const ProcessUsage& earlier) const {
         used.contextSwitches += used.contextSwitchesByThread[thread];
     }
     used.processorTicks = processorTicks - earlier.processorTicks;
+    used.processorSeconds = processorSeconds - earlier.processorSeconds;
     return used;
 }
 

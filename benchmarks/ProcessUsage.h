@@ -16,6 +16,8 @@ struct ProcessUsage {
     std::map<std::string, long> contextSwitchesByThread;
     /// Clock ticks on a processor, in its own code and in the kernel's for it.
     long processorTicks = 0;
+    /// The same to the nanosecond, in seconds.
+    double processorSeconds = 0;
 
     /// Reads /proc; throws when there is no such process.
     static ProcessUsage of(pid_t process);

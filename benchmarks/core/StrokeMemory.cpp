@@ -44,7 +44,7 @@ int main(int count, char** arguments) {
             pageOf(0);
             const std::size_t before = liveBytes();
             const StrokeList& page = pageOf(strokes);
-            report.add({"memory",
+            report.add({"core",
                         "strokes of 100 points: " + grouped(strokes) + " strokes",
                         "MB",
                         {megabytesSince(before)}});
@@ -53,7 +53,7 @@ int main(int count, char** arguments) {
                 drawing.addStroke(strokeOnPage(static_cast<std::uint32_t>(strokes + step)));
             };
             report.add(
-                {"memory",
+                {"core",
                  "50 snapshots above " + grouped(strokes) + " strokes" + ", one drawn before each",
                  "MB",
                  {snapshotsAbove(page, draw)},
@@ -63,7 +63,7 @@ int main(int count, char** arguments) {
                     drawing.removeStroke(drawing.strokes.get()[0].id());
                 }
             };
-            report.add({"memory",
+            report.add({"core",
                         "the same, the oldest removed before each",
                         "MB",
                         {snapshotsAbove(page, remove)},
