@@ -66,8 +66,8 @@ std::vector<std::string> split(const std::string& text, char separator) {
 std::string Row::line() const {
     std::ostringstream text;
     text << subject << '\t' << figure << '\t' << unit << '\t' << lineOf(target) << '\t';
-    for (const double value : rounds) {
-        text << (&value == rounds.data() ? "" : " ") << value;
+    for (std::size_t round = 0; round < rounds.size(); ++round) {
+        text << (round == 0 ? "" : " ") << rounds[round];
     }
     return text.str() + "\n";
 }

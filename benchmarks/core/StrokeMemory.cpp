@@ -22,8 +22,8 @@ double megabytesSince(std::size_t before) {
     return (static_cast<double>(liveBytes()) - static_cast<double>(before)) / kMegabyte;
 }
 
-/// What as many snapshots as there can be hold on top of the page, when each follows an `edit`.
-/// What the edits themselves bring, such as new strokes, is thrown away by a clear before.
+/// What as many snapshots as there can be hold on top of the page, when each follows an `edit`;
+/// new strokes that the edits bring count along.
 template <typename Edit>
 double snapshotsAbove(const StrokeList& page, Edit&& edit) {
     DrawingState drawing;
@@ -44,27 +44,25 @@ int main(int count, char** arguments) {
             pageOf(0);
             const std::size_t before = liveBytes();
             const StrokeList& page = pageOf(strokes);
-            report.add({"core",
-                        "strokes of 100 points: " + grouped(strokes) + " strokes",
-                        "MB",
-                        {megabytesSince(before)}});
+            const std::string ofPage = grouped(strokes) + " strokes";
+            report.add(
+                {"core", "memory: " + ofPage + " of 100 points", "MB", {megabytesSince(before)}});
             const auto target = strokes == kLargePage ? std::optional(atMost(16)) : std::nullopt;
             const auto draw = [&](DrawingState& drawing, std::size_t step) {
                 drawing.addStroke(strokeOnPage(static_cast<std::uint32_t>(strokes + step)));
             };
-            report.add(
-                {"core",
-                 "50 snapshots above " + grouped(strokes) + " strokes" + ", one drawn before each",
-                 "MB",
-                 {snapshotsAbove(page, draw)},
-                 target});
-            const auto remove = [&](DrawingState& drawing, std::size_t) {
+            report.add({"core",
+                        "memory: 50 snapshots above " + ofPage + ", each after a new one",
+                        "MB",
+                        {snapshotsAbove(page, draw)},
+                        target});
+            const auto remove = [](DrawingState& drawing, std::size_t) {
                 if (!drawing.strokes->empty()) {
                     drawing.removeStroke(drawing.strokes.get()[0].id());
                 }
             };
             report.add({"core",
-                        "the same, the oldest removed before each",
+                        "memory: 50 snapshots above " + ofPage + ", each without the oldest",
                         "MB",
                         {snapshotsAbove(page, remove)},
                         target});
