@@ -12,10 +12,15 @@ QtBitmap::QtBitmap(CGSize size, CGFloat scale)
     m_image.fill(Qt::transparent);
 }
 
-GraphicsContext& QtBitmap::beginPainting(const CGRect& clip) {
-    const QRect pixels = devicePixels(clip, m_scale).intersected(m_image.rect());
+GraphicsContext& QtBitmap::beginPainting(std::span<const CGRect> clip) {
+    QRegion region;
+    for (const CGRect& rect : clip) {
+        region += devicePixels(rect, m_scale);
+    }
+    region &= m_image.rect();
+    const QRect pixels = region.boundingRect();
     m_painter.emplace(&m_image);
-    m_painter->setClipRect(pixels);
+    m_painter->setClipRegion(region);
     m_painter->scale(m_scale, m_scale);
     const QRectF points(pixels.x() / m_scale, pixels.y() / m_scale, pixels.width() / m_scale,
                         pixels.height() / m_scale);

@@ -7,6 +7,7 @@
 #include <QPainter>
 
 #include <optional>
+#include <span>
 
 namespace quillon::desktop {
 
@@ -22,7 +23,7 @@ public:
     const QImage& image() const { return m_image; }
 
 protected:
-    GraphicsContext& beginPainting(const CGRect& clip) override;
+    GraphicsContext& beginPainting(std::span<const CGRect> clip) override;
     void endPainting() override;
 
 private:

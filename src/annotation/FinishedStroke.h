@@ -3,7 +3,6 @@
 #include "annotation/SegmentIndex.h"
 #include "model/DrawingStroke.h"
 #include "platform/Bitmap.h"
-#include "platform/Damage.h"
 
 #include <cstdint>
 #include <memory>
@@ -31,8 +30,8 @@ public:
     /// No ink falls outside of this.
     const CGRect& inkBounds(Graphics& graphics) const;
 
-    /// Where the ink falls, in small pieces.
-    Damage ink(Graphics& graphics) const;
+    /// Tells where the ink falls.
+    void visitInk(Graphics& graphics, const InkVisitor& visit) const;
 
 private:
     DrawingStroke m_stroke;
@@ -44,5 +43,10 @@ private:
 };
 
 using StrokeRef = std::shared_ptr<const FinishedStroke>;
+
+/// Tells where the picture changes when `after` comes into the place of `before`: of a freehand
+/// stroke that lost points, only where they were.
+void visitChangedInk(const FinishedStroke& before, const FinishedStroke& after, Graphics& graphics,
+                     const InkVisitor& visit);
 
 } // namespace quillon

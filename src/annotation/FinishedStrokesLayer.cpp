@@ -9,21 +9,14 @@ void FinishedStrokesLayer::layout(CGSize size, CGFloat scale) {
 }
 
 Damage FinishedStrokesLayer::update(const StrokeList& strokes, FadingStrokes fading) {
-    const auto change = StrokeList::difference(m_strokes, strokes);
-    const bool isOnlyAppended = change.isPureAppend && m_fading.empty() && fading.empty();
-    Damage damage;
-    for (const auto* strokesThatChange : {&change.removed, &change.added}) {
-        for (const auto& stroke : *strokesThatChange) {
-            damage.add(stroke->ink(m_graphics));
-        }
+    const auto difference = StrokeList::difference(m_strokes, strokes);
+    const bool isSame = difference.isEmpty() && m_fading.empty() && fading.empty();
+    if (isSame && (m_bitmap || strokes.empty())) {
+        return {};
     }
-    for (const auto* faded : {&m_fading, &fading}) {
-        for (const auto& [stroke, opacity] : *faded) {
-            damage.add(stroke->ink(m_graphics));
-        }
-    }
+    const DirtyCells dirty = changes(difference, fading);
     const bool drawsOnTop =
-        isOnlyAppended && m_bitmap && change.added.size() == 1 && liesOnTop(*change.added.front());
+        m_bitmap && m_fading.empty() && fading.empty() && isOneOnTop(difference, strokes, dirty);
     m_strokes = strokes;
     m_fading = std::move(fading);
 
@@ -31,15 +24,37 @@ Damage FinishedStrokesLayer::update(const StrokeList& strokes, FadingStrokes fad
         m_bitmap.reset();
     } else if (!m_bitmap) {
         m_bitmap = m_graphics.makeBitmap(m_size, m_scale);
-        repaint({0, 0, m_size.width, m_size.height});
+        repaintAll();
     } else if (drawsOnTop) {
-        drawOnTop(*change.added.front());
+        drawOnTop(*difference.added.front());
     } else {
-        for (const auto& rect : damage.rects()) {
-            repaint(rect);
-        }
+        repaint(dirty);
+    }
+    Damage damage;
+    for (const CGRect& rect : dirty.rects()) {
+        damage.add(rect);
     }
     return damage;
+}
+
+DirtyCells FinishedStrokesLayer::changes(const StrokeList::Difference& difference,
+                                         const FadingStrokes& fading) const {
+    DirtyCells dirty(m_size, m_scale);
+    const auto add = [&](const CGRect& ink) { dirty.add(ink); };
+    for (const auto* strokes : {&difference.removed, &difference.added}) {
+        for (const auto& stroke : *strokes) {
+            stroke->visitInk(m_graphics, add);
+        }
+    }
+    for (const auto& [before, after] : difference.replaced) {
+        visitChangedInk(*before, *after, m_graphics, add);
+    }
+    for (const auto* faded : {&m_fading, &fading}) {
+        for (const auto& [stroke, opacity] : *faded) {
+            stroke->visitInk(m_graphics, add);
+        }
+    }
+    return dirty;
 }
 
 void FinishedStrokesLayer::draw(GraphicsContext& context, const CGRect& rect) const {
@@ -48,16 +63,23 @@ void FinishedStrokesLayer::draw(GraphicsContext& context, const CGRect& rect) co
     }
 }
 
-bool FinishedStrokesLayer::liesOnTop(const FinishedStroke& added) const {
-    // Highlighter strokes are drawn over all others. The list is still the one before the change.
-    if (added.stroke().tool == DrawingTool::highlighter) {
+bool FinishedStrokesLayer::isOneOnTop(const StrokeList::Difference& difference,
+                                      const StrokeList& strokes, const DirtyCells& dirty) const {
+    const auto& added = difference.added;
+    const bool isOneAppended = difference.removed.empty() && difference.replaced.empty() &&
+                               added.size() == 1 &&
+                               added.front() == strokes.ref(strokes.size() - 1);
+    if (!isOneAppended) {
+        return false;
+    }
+    // Highlighter strokes are drawn over all others.
+    if (added.front()->stroke().tool == DrawingTool::highlighter) {
         return true;
     }
-    const CGRect& ink = added.inkBounds(m_graphics);
-    for (std::size_t index = 0; index < m_strokes.size(); ++index) {
-        const auto& present = *m_strokes.ref(index);
+    for (std::size_t index = 0; index + 1 < strokes.size(); ++index) {
+        const auto& present = *strokes.ref(index);
         if (present.stroke().tool == DrawingTool::highlighter &&
-            present.inkBounds(m_graphics).intersects(ink)) {
+            dirty.meets(present.inkBounds(m_graphics))) {
             return false;
         }
     }
@@ -71,8 +93,20 @@ void FinishedStrokesLayer::drawOnTop(const FinishedStroke& added) {
     });
 }
 
-void FinishedStrokesLayer::repaint(const CGRect& rect) {
-    m_bitmap->paint(rect, [&](GraphicsContext& context) {
+void FinishedStrokesLayer::repaint(const DirtyCells& dirty) {
+    const auto rects = dirty.rects();
+    if (rects.empty()) {
+        return;
+    }
+    m_bitmap->paint(rects, [&](GraphicsContext& context) {
+        const CGRect bounds = context.clipBounds();
+        context.clear(bounds);
+        drawStrokes(context, m_strokes, m_graphics, m_fading, PaintArea(bounds, dirty));
+    });
+}
+
+void FinishedStrokesLayer::repaintAll() {
+    m_bitmap->paint({0, 0, m_size.width, m_size.height}, [&](GraphicsContext& context) {
         context.clear(context.clipBounds());
         drawStrokes(context, m_strokes, m_graphics, m_fading);
     });

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "annotation/DirtyCells.h"
 #include "annotation/StrokeList.h"
 #include "annotation/StrokeRenderer.h"
 #include "platform/Bitmap.h"
@@ -12,8 +13,8 @@ namespace quillon {
 /// The lower drawing layer: all finished strokes, kept composed in a bitmap.
 ///
 /// The bitmap always equals the plain walk over the whole list, pixel for pixel: a change repaints
-/// by that walk what it touched, or draws on top when nothing lies above the new stroke. It exists
-/// only while there is something to show.
+/// the cells that it touched, by one walk over what meets them, or draws on top when nothing lies
+/// above the new stroke. It exists only while there is something to show.
 class FinishedStrokesLayer {
 public:
     explicit FinishedStrokesLayer(Graphics& graphics)
@@ -29,9 +30,14 @@ public:
     void draw(GraphicsContext& context, const CGRect& rect) const;
 
 private:
-    bool liesOnTop(const FinishedStroke& added) const;
+    /// What differs between the picture of the last update and one of these.
+    DirtyCells changes(const StrokeList::Difference& difference, const FadingStrokes& fading) const;
+    /// `difference` is nothing but a stroke that is drawn after all others, in the dirty cells.
+    bool isOneOnTop(const StrokeList::Difference& difference, const StrokeList& strokes,
+                    const DirtyCells& dirty) const;
     void drawOnTop(const FinishedStroke& added);
-    void repaint(const CGRect& rect);
+    void repaint(const DirtyCells& dirty);
+    void repaintAll();
 
     Graphics& m_graphics;
     CGSize m_size;

@@ -279,10 +279,12 @@ void OverlayContainerView::autoErase(const UUID& id) {
     const double now = Host::current().mainQueue().now();
     for (std::size_t index = 0; index < strokes.size(); ++index) {
         if (strokes[index].id() == id) {
-            m_fades.push_back({strokes.ref(index), now});
+            const auto place =
+                std::ranges::upper_bound(m_fades, strokes.ref(index)->order(), {},
+                                         [](const Fade& fade) { return fade.stroke->order(); });
+            m_fades.insert(place, {strokes.ref(index), now});
         }
     }
-    std::ranges::stable_sort(m_fades, {}, [](const Fade& fade) { return fade.stroke->order(); });
     m_drawingState.removeStroke(id);
 }
 
@@ -293,9 +295,8 @@ FadingStrokes OverlayContainerView::fadingStrokes(double now) {
     const StrokeList& strokes = m_drawingState.strokes;
     std::erase_if(m_fades, [&](const Fade& fade) {
         // An undo may have brought the stroke back in the meantime.
-        const bool isBack = std::ranges::any_of(strokes, [&](const DrawingStroke& stroke) {
-            return stroke.id() == fade.stroke->stroke().id();
-        });
+        const FinishedStroke* inItsPlace = strokes.withOrder(fade.stroke->order());
+        const bool isBack = inItsPlace && inItsPlace->stroke().id() == fade.stroke->stroke().id();
         return isBack || now - fade.start >= kEraseFade;
     });
     FadingStrokes fading;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "annotation/PaintArea.h"
 #include "annotation/StrokePath.h"
 #include "foundation/Geometry.h"
 #include "model/CodablePoint.h"
@@ -11,7 +12,7 @@
 
 namespace quillon {
 
-/// Finds the segments of a freehand curve that come near a rectangle without looking at each of
+/// Finds the segments of a freehand curve that leave ink in an area without looking at each of
 /// them: the bounds of every run of 64 are kept. It follows a curve that grows at its end.
 class SegmentIndex {
 public:
@@ -28,20 +29,19 @@ public:
     CGRect bounds() const;
 
     /// Calls `body` with the first and past-the-end number of each run of neighbouring segments
-    /// whose bounds, grown by `reach`, share an area with `rect`.
+    /// whose bounds, grown by `reach`, meet `area`.
     template <typename Body>
-    void forEachRunNear(const FreehandCurve& curve, const CGRect& rect, CGFloat reach,
+    void forEachRunNear(const FreehandCurve& curve, const PaintArea& area, CGFloat reach,
                         Body&& body) const {
-        const CGRect near = rect.outset(reach);
         std::size_t first = 0;
         std::size_t past = 0;
         for (std::size_t run = 0; run < m_runs.size(); ++run) {
-            if (!touch(m_runs[run], near)) {
+            if (!area.meets(m_runs[run].outset(reach))) {
                 continue;
             }
             const std::size_t end = std::min((run + 1) * runLength, m_segmentCount);
             for (std::size_t index = run * runLength; index < end; ++index) {
-                if (!touch(curve.segment(index).bounds(), near)) {
+                if (!area.meets(curve.segment(index).bounds().outset(reach))) {
                     continue;
                 }
                 if (index != past && past > first) {
@@ -59,12 +59,6 @@ public:
     }
 
 private:
-    /// Like `intersects`, but true also for bounds without an area, which a straight line has.
-    static bool touch(const CGRect& bounds, const CGRect& rect) {
-        return bounds.minX() <= rect.maxX() && rect.minX() <= bounds.maxX() &&
-               bounds.minY() <= rect.maxY() && rect.minY() <= bounds.maxY();
-    }
-
     std::vector<CGRect> m_runs;
     std::size_t m_segmentCount = 0;
     std::size_t m_pointCount = 0;

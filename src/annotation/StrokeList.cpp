@@ -1,7 +1,6 @@
 #include "annotation/StrokeList.h"
 
 #include <algorithm>
-#include <unordered_set>
 
 namespace quillon {
 
@@ -9,6 +8,20 @@ StrokeList::StrokeList(std::initializer_list<DrawingStroke> strokes) {
     for (const auto& stroke : strokes) {
         append(stroke);
     }
+}
+
+const FinishedStroke* StrokeList::withOrder(std::uint64_t order) const {
+    std::size_t low = 0;
+    std::size_t high = m_size;
+    while (low < high) {
+        const std::size_t middle = low + (high - low) / 2;
+        if (ref(middle)->order() < order) {
+            low = middle + 1;
+        } else {
+            high = middle;
+        }
+    }
+    return low < m_size && ref(low)->order() == order ? ref(low).get() : nullptr;
 }
 
 void StrokeList::append(DrawingStroke stroke) {
@@ -73,34 +86,36 @@ void StrokeList::truncate(std::size_t size) {
 }
 
 StrokeList::Difference StrokeList::difference(const StrokeList& before, const StrokeList& after) {
-    const std::size_t common = std::min(before.size(), after.size());
-    std::size_t front = 0;
-    while (front < common) {
-        const std::size_t chunk = front / chunkSize;
-        if (front % chunkSize == 0 && before.m_chunks[chunk] == after.m_chunks[chunk]) {
-            front = std::min(front + chunkSize, common);
-        } else if (before.ref(front) == after.ref(front)) {
-            ++front;
-        } else {
-            break;
-        }
-    }
-
+    // Both are sorted by order, and a stroke has the same order wherever it stands.
     Difference difference;
-    difference.isPureAppend = front == before.size();
-    std::unordered_set<const FinishedStroke*> present;
-    for (std::size_t index = front; index < after.size(); ++index) {
-        present.insert(after.ref(index).get());
-    }
-    for (std::size_t index = front; index < before.size(); ++index) {
-        if (present.erase(before.ref(index).get()) == 0) {
-            difference.removed.push_back(before.ref(index));
+    std::size_t left = 0;
+    std::size_t right = 0;
+    while (left < before.size() && right < after.size()) {
+        if (left == right && left % chunkSize == 0 &&
+            before.m_chunks[left / chunkSize] == after.m_chunks[left / chunkSize]) {
+            left = right = left + before.m_chunks[left / chunkSize]->size();
+            continue;
         }
-    }
-    for (std::size_t index = front; index < after.size(); ++index) {
-        if (present.contains(after.ref(index).get())) {
-            difference.added.push_back(after.ref(index));
+        const StrokeRef& gone = before.ref(left);
+        const StrokeRef& come = after.ref(right);
+        const auto order = std::min(gone->order(), come->order());
+        const bool isBefore = gone->order() == order;
+        const bool isAfter = come->order() == order;
+        if (!isAfter) {
+            difference.removed.push_back(gone);
+        } else if (!isBefore) {
+            difference.added.push_back(come);
+        } else if (gone != come) {
+            difference.replaced.push_back({gone, come});
         }
+        left += isBefore ? 1 : 0;
+        right += isAfter ? 1 : 0;
+    }
+    for (; left < before.size(); ++left) {
+        difference.removed.push_back(before.ref(left));
+    }
+    for (; right < after.size(); ++right) {
+        difference.added.push_back(after.ref(right));
     }
     return difference;
 }

@@ -3,6 +3,7 @@
 #include "annotation/FinishedStroke.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <initializer_list>
 #include <iterator>
@@ -15,7 +16,8 @@ namespace quillon {
 /// chunks, and copies share the chunks until one of them changes. A snapshot of ten thousand
 /// strokes is forty references, and adding one stroke afterwards copies the last chunk alone.
 ///
-/// Every chunk but the last is full. The list is not thread-safe.
+/// Every chunk but the last is full. The order of the strokes grows from one to the next. The list
+/// is not thread-safe.
 class StrokeList {
 public:
     static constexpr std::size_t chunkSize = 256;
@@ -29,6 +31,9 @@ public:
         return (*m_chunks[index / chunkSize])[index % chunkSize];
     }
     const DrawingStroke& operator[](std::size_t index) const { return ref(index)->stroke(); }
+
+    /// The stroke of this order, or null.
+    const FinishedStroke* withOrder(std::uint64_t order) const;
 
     void append(DrawingStroke stroke);
     /// Stores a stroke in the place of another.
@@ -69,14 +74,21 @@ public:
     Iterator begin() const { return {this, 0}; }
     Iterator end() const { return {this, m_size}; }
 
-    /// What leads from `before` to `after`, found without a look at the chunks that they share.
-    /// A stroke that was replaced is both removed and added.
+    /// What leads from one list to another: every stroke that stands in one of them alone, in
+    /// order.
     struct Difference {
+        struct Replacement {
+            StrokeRef before;
+            StrokeRef after;
+        };
         std::vector<StrokeRef> removed;
         std::vector<StrokeRef> added;
-        /// All of `before` still stands, in its old place, at the front of `after`.
-        bool isPureAppend = true;
+        /// Two strokes of the same place in the order.
+        std::vector<Replacement> replaced;
+
+        bool isEmpty() const { return removed.empty() && added.empty() && replaced.empty(); }
     };
+    /// Leaves out the chunks that the two share.
     static Difference difference(const StrokeList& before, const StrokeList& after);
 
 private:

@@ -16,15 +16,16 @@ CGRect boundsOf(std::initializer_list<CGPoint> points) {
     return rectBetween(low, high);
 }
 
-/// Adds the bounds of a curve in pieces no longer than this, so that the inside of a large shape
+/// Tells the bounds of a curve in pieces no longer than this, so that the inside of a large shape
 /// stays untouched.
 constexpr CGFloat kPieceLength = 160;
 
-void addPieces(const FreehandCurve::Segment& curve, CGFloat reach, int depth, Damage& ink) {
+void visitPieces(const FreehandCurve::Segment& curve, CGFloat reach, int depth,
+                 const InkVisitor& visit) {
     const CGRect bounds = curve.bounds();
     if (depth == 0 || std::min(bounds.width, bounds.height) <= reach ||
         std::max(bounds.width, bounds.height) <= kPieceLength) {
-        ink.add(bounds.outset(reach));
+        visit(bounds.outset(reach));
         return;
     }
     // De Casteljau's division at one half.
@@ -34,8 +35,8 @@ void addPieces(const FreehandCurve::Segment& curve, CGFloat reach, int depth, Da
     const CGPoint b = (a + middle) / 2;
     const CGPoint c = (middle + d) / 2;
     const CGPoint split = (b + c) / 2;
-    addPieces({curve.start, a, b, split}, reach, depth - 1, ink);
-    addPieces({split, c, d, curve.end}, reach, depth - 1, ink);
+    visitPieces({curve.start, a, b, split}, reach, depth - 1, visit);
+    visitPieces({split, c, d, curve.end}, reach, depth - 1, visit);
 }
 
 constexpr int kDeepestDivision = 4;
@@ -117,14 +118,13 @@ StrokeForm formOf(const DrawingStroke& stroke) {
     return StrokeForm::freehand;
 }
 
-Damage inkOfPath(const Path& path, CGFloat lineWidth) {
+void visitInkOfPath(const Path& path, CGFloat lineWidth, const InkVisitor& visit) {
     const CGFloat reach = inkReach(lineWidth);
-    Damage ink;
     CGPoint start;
     CGPoint pen;
     auto point = path.points().begin();
-    const auto addPiece = [&](CGPoint control1, CGPoint control2, CGPoint end) {
-        addPieces({pen, control1, control2, end}, reach, kDeepestDivision, ink);
+    const auto visitPiece = [&](CGPoint control1, CGPoint control2, CGPoint end) {
+        visitPieces({pen, control1, control2, end}, reach, kDeepestDivision, visit);
         pen = end;
     };
     for (const auto verb : path.verbs()) {
@@ -133,29 +133,26 @@ Damage inkOfPath(const Path& path, CGFloat lineWidth) {
             start = pen = *point++;
             break;
         case Path::Verb::line:
-            addPiece(pen + (*point - pen) / 3, pen + (*point - pen) * 2 / 3, *point);
+            visitPiece(pen + (*point - pen) / 3, pen + (*point - pen) * 2 / 3, *point);
             ++point;
             break;
         case Path::Verb::curve:
-            addPiece(point[0], point[1], point[2]);
+            visitPiece(point[0], point[1], point[2]);
             point += 3;
             break;
         case Path::Verb::close:
-            addPiece(pen + (start - pen) / 3, pen + (start - pen) * 2 / 3, start);
+            visitPiece(pen + (start - pen) / 3, pen + (start - pen) * 2 / 3, start);
             break;
         }
     }
-    return ink;
 }
 
-Damage inkOfSegments(const FreehandCurve& curve, std::size_t first, std::size_t last,
-                     CGFloat lineWidth) {
+void visitInkOfSegments(const FreehandCurve& curve, std::size_t first, std::size_t last,
+                        CGFloat lineWidth, const InkVisitor& visit) {
     const CGFloat reach = inkReach(lineWidth);
-    Damage ink;
     for (std::size_t index = first; index < last; ++index) {
-        addPieces(curve.segment(index), reach, kDeepestDivision, ink);
+        visitPieces(curve.segment(index), reach, kDeepestDivision, visit);
     }
-    return ink;
 }
 
 } // namespace quillon

@@ -3,10 +3,10 @@
 #include "foundation/Geometry.h"
 #include "model/CodablePoint.h"
 #include "model/DrawingStroke.h"
-#include "platform/Damage.h"
 #include "platform/Path.h"
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <span>
 
@@ -25,6 +25,8 @@ public:
         CGPoint end;
 
         CGRect bounds() const;
+
+        friend bool operator==(const Segment&, const Segment&) = default;
     };
 
     explicit FreehandCurve(std::span<const CodablePoint> points)
@@ -64,10 +66,13 @@ inline CGFloat inkReach(CGFloat lineWidth) {
     return std::max(lineWidth, 0.0) / 2 + 1;
 }
 
-/// Where the ink of a path falls, in small pieces that follow it.
-Damage inkOfPath(const Path& path, CGFloat lineWidth);
-/// The same for segments `first` to `last` of a freehand curve.
-Damage inkOfSegments(const FreehandCurve& curve, std::size_t first, std::size_t last,
-                     CGFloat lineWidth);
+/// Takes the places of ink, in small pieces that follow its path and may overlap.
+using InkVisitor = std::function<void(const CGRect&)>;
+
+/// Tells where the ink of a path falls.
+void visitInkOfPath(const Path& path, CGFloat lineWidth, const InkVisitor& visit);
+/// The same for segments `first` to `last` of a freehand curve, the latter not included.
+void visitInkOfSegments(const FreehandCurve& curve, std::size_t first, std::size_t last,
+                        CGFloat lineWidth, const InkVisitor& visit);
 
 } // namespace quillon

@@ -44,14 +44,18 @@ void forEachInOrder(const StrokeList& strokes, const FadingStrokes& fading, Visi
 
 void drawStrokes(GraphicsContext& context, const StrokeList& strokes, Graphics& graphics,
                  const FadingStrokes& fading) {
-    const CGRect clip = context.clipBounds();
+    drawStrokes(context, strokes, graphics, fading, PaintArea(context.clipBounds()));
+}
+
+void drawStrokes(GraphicsContext& context, const StrokeList& strokes, Graphics& graphics,
+                 const FadingStrokes& fading, const PaintArea& area) {
     std::vector<std::pair<const FinishedStroke*, double>> highlighters;
     const auto draw = [&](const FinishedStroke& finished, double opacity, BlendMode blendMode) {
         context.setOpacity(opacity);
-        drawStroke(context, finished.stroke(), blendMode, finished.segments());
+        drawStroke(context, finished.stroke(), blendMode, finished.segments(), area);
     };
     forEachInOrder(strokes, fading, [&](const FinishedStroke& finished, double opacity) {
-        if (!finished.inkBounds(graphics).intersects(clip)) {
+        if (!area.meets(finished.inkBounds(graphics))) {
             return;
         }
         if (finished.stroke().tool == DrawingTool::highlighter) {
@@ -68,6 +72,11 @@ void drawStrokes(GraphicsContext& context, const StrokeList& strokes, Graphics& 
 
 void drawStroke(GraphicsContext& context, const DrawingStroke& stroke, BlendMode blendMode,
                 const SegmentIndex& segments) {
+    drawStroke(context, stroke, blendMode, segments, PaintArea(context.clipBounds()));
+}
+
+void drawStroke(GraphicsContext& context, const DrawingStroke& stroke, BlendMode blendMode,
+                const SegmentIndex& segments, const PaintArea& area) {
     const Color color = paintColor(stroke);
     context.drawLayer([&](GraphicsContext& layer) {
         layer.setBlendMode(blendMode);
@@ -81,7 +90,7 @@ void drawStroke(GraphicsContext& context, const DrawingStroke& stroke, BlendMode
                      *stroke.fontSize);
             break;
         case StrokeForm::freehand:
-            drawPath(layer, stroke.points, color, stroke.lineWidth, segments);
+            drawPath(layer, stroke.points, color, stroke.lineWidth, segments, area);
             break;
         }
     });
@@ -103,11 +112,11 @@ void drawText(GraphicsContext& context, const std::string& text, CGPoint at, con
 }
 
 void drawPath(GraphicsContext& context, std::span<const CodablePoint> points, const Color& color,
-              CGFloat lineWidth, const SegmentIndex& segments) {
+              CGFloat lineWidth, const SegmentIndex& segments, const PaintArea& area) {
     const FreehandCurve curve(points);
     Path path;
     segments.forEachRunNear(
-        curve, context.clipBounds(), inkReach(lineWidth),
+        curve, area, inkReach(lineWidth),
         [&](std::size_t first, std::size_t past) { curve.addSegments(first, past, path); });
     if (!path.isEmpty()) {
         context.stroke(path, color, roundStyle(lineWidth));
@@ -118,20 +127,27 @@ Color paintColor(const DrawingStroke& stroke) {
     return stroke.tool == DrawingTool::eraser ? Color::white.opacity(0.5) : stroke.viewColor();
 }
 
-Damage strokeInk(const DrawingStroke& stroke, std::size_t firstSegment, Graphics& graphics) {
+void visitInk(const DrawingStroke& stroke, std::size_t firstSegment, Graphics& graphics,
+              const InkVisitor& visit) {
     switch (formOf(stroke)) {
     case StrokeForm::shape:
-        return inkOfPath(shapePathOf(stroke), stroke.lineWidth);
-    case StrokeForm::text: {
-        Damage ink;
-        ink.add(textInk(stroke, graphics));
-        return ink;
-    }
-    case StrokeForm::freehand:
+        visitInkOfPath(shapePathOf(stroke), stroke.lineWidth, visit);
+        break;
+    case StrokeForm::text:
+        visit(textInk(stroke, graphics));
+        break;
+    case StrokeForm::freehand: {
+        const FreehandCurve curve(stroke.points);
+        visitInkOfSegments(curve, firstSegment, curve.segmentCount(), stroke.lineWidth, visit);
         break;
     }
-    const FreehandCurve curve(stroke.points);
-    return inkOfSegments(curve, firstSegment, curve.segmentCount(), stroke.lineWidth);
+    }
+}
+
+Damage strokeInk(const DrawingStroke& stroke, std::size_t firstSegment, Graphics& graphics) {
+    Damage ink;
+    visitInk(stroke, firstSegment, graphics, [&](const CGRect& piece) { ink.add(piece); });
+    return ink;
 }
 
 CGRect strokeInkBounds(const DrawingStroke& stroke, const SegmentIndex& segments,

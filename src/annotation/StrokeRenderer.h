@@ -1,5 +1,6 @@
 #pragma once
 
+#include "annotation/PaintArea.h"
 #include "annotation/SegmentIndex.h"
 #include "annotation/StrokeList.h"
 #include "model/DrawingStroke.h"
@@ -14,8 +15,9 @@
 #include <utility>
 #include <vector>
 
-/// How strokes become a picture. Nothing here changes any state. What lies outside of the context's
-/// clip bounds is left out, which changes no pixel inside of them.
+/// How strokes become a picture. Nothing here changes any state. What lies outside of the area to
+/// be painted is left out, which changes no pixel inside of it. Without an area given it is that of
+/// the context's clip bounds.
 namespace quillon {
 
 /// Strokes that have left the list and are still fading, each with its opacity from 0 to 1. They
@@ -26,11 +28,15 @@ using FadingStrokes = std::vector<std::pair<StrokeRef, double>>;
 /// highlighter strokes, so that these always lie on top.
 void drawStrokes(GraphicsContext& context, const StrokeList& strokes, Graphics& graphics,
                  const FadingStrokes& fading = {});
+void drawStrokes(GraphicsContext& context, const StrokeList& strokes, Graphics& graphics,
+                 const FadingStrokes& fading, const PaintArea& area);
 
 /// Paints one stroke in a layer of its own. The blend mode holds inside that layer, not where the
 /// layer is received. `segments` belongs to the stroke's points.
 void drawStroke(GraphicsContext& context, const DrawingStroke& stroke, BlendMode blendMode,
                 const SegmentIndex& segments);
+void drawStroke(GraphicsContext& context, const DrawingStroke& stroke, BlendMode blendMode,
+                const SegmentIndex& segments, const PaintArea& area);
 
 /// The blend mode that a tool's strokes have inside their layer.
 BlendMode blendModeOf(DrawingTool tool);
@@ -46,13 +52,16 @@ void drawText(GraphicsContext& context, const std::string& text, CGPoint at, con
 /// Paints a freehand line through its points: nothing for fewer than two, a straight line for two,
 /// else the curve of `FreehandCurve`, with round caps and joins.
 void drawPath(GraphicsContext& context, std::span<const CodablePoint> points, const Color& color,
-              CGFloat lineWidth, const SegmentIndex& segments);
+              CGFloat lineWidth, const SegmentIndex& segments, const PaintArea& area);
 
 /// The colour in which a stroke is painted: its own, but translucent white for the eraser.
 Color paintColor(const DrawingStroke& stroke);
 
-/// Where the ink of a stroke falls, in small pieces; of a freehand stroke, only what segment
-/// `firstSegment` and later ones bring.
+/// Tells where the ink of a stroke falls; of a freehand stroke, only what segment `firstSegment`
+/// and later ones bring.
+void visitInk(const DrawingStroke& stroke, std::size_t firstSegment, Graphics& graphics,
+              const InkVisitor& visit);
+/// The same as damage.
 Damage strokeInk(const DrawingStroke& stroke, std::size_t firstSegment, Graphics& graphics);
 /// One rectangle outside of which no ink falls.
 CGRect strokeInkBounds(const DrawingStroke& stroke, const SegmentIndex& segments,

@@ -4,6 +4,8 @@
 #include "platform/GraphicsContext.h"
 
 #include <memory>
+#include <span>
+#include <utility>
 
 namespace quillon {
 
@@ -18,16 +20,20 @@ public:
     /// Device pixels to a point.
     virtual CGFloat scale() const = 0;
 
-    /// Calls `body` with a context that paints into the bitmap and nowhere but in `clip`, which is
-    /// widened to whole device pixels.
+    /// Calls `body` with a context that paints into the bitmap and nowhere but in the rectangles of
+    /// `clip`, which are widened to whole device pixels. They must not overlap.
     template <typename Body>
-    void paint(const CGRect& clip, Body&& body) {
+    void paint(std::span<const CGRect> clip, Body&& body) {
         body(beginPainting(clip));
         endPainting();
     }
+    template <typename Body>
+    void paint(const CGRect& clip, Body&& body) {
+        paint(std::span(&clip, 1), std::forward<Body>(body));
+    }
 
 protected:
-    virtual GraphicsContext& beginPainting(const CGRect& clip) = 0;
+    virtual GraphicsContext& beginPainting(std::span<const CGRect> clip) = 0;
     virtual void endPainting() = 0;
 };
 

@@ -185,6 +185,75 @@ TEST_F(FinishedLayer, a_stroke_that_was_shortened_has_its_place_painted_anew) {
     EXPECT_EQ(kinds(drawnBy(strokes)), (std::vector<Kind>{Kind::clear, Kind::stroke}));
 }
 
+TEST_F(FinishedLayer, a_stroke_that_was_shortened_is_painted_anew_only_where_it_lost_points) {
+    std::vector<CGPoint> points;
+    for (int step = 0; step <= 90; ++step) {
+        points.push_back({10.0 * step, 100});
+    }
+    StrokeList strokes{freehand(points)};
+    drawnBy(strokes);
+    points.erase(points.begin() + 40, points.begin() + 50);
+    DrawingStroke shortened = strokes[0];
+    shortened.points = freehand(points).points;
+    strokes.replace(0, shortened);
+    const Damage damage = layer.update(strokes, {});
+    EXPECT_TRUE(damage.intersects({400, 99, 100, 2}));
+    EXPECT_FALSE(damage.intersects({0, 0, 340, 700}));
+    EXPECT_FALSE(damage.intersects({560, 0, 440, 700}));
+    EXPECT_FALSE(graphics.lastBitmap->context.clip.intersects({560, 0, 440, 700}));
+}
+
+TEST_F(FinishedLayer, a_stroke_that_lost_points_in_two_places_is_left_alone_between_them) {
+    std::vector<CGPoint> points;
+    for (int step = 0; step <= 90; ++step) {
+        points.push_back({10.0 * step, 100});
+    }
+    const StrokeList whole{freehand(points)};
+    points.erase(points.begin() + 60, points.begin() + 65);
+    points.erase(points.begin() + 20, points.begin() + 25);
+    StrokeList gaps = whole;
+    DrawingStroke shortened = whole[0];
+    shortened.points = freehand(points).points;
+    gaps.replace(0, shortened);
+    layer.update(whole, {});
+    for (const StrokeList& strokes : {gaps, whole}) {
+        const Damage damage = layer.update(strokes, {});
+        EXPECT_TRUE(damage.intersects({200, 99, 50, 2}));
+        EXPECT_TRUE(damage.intersects({600, 99, 50, 2}));
+        EXPECT_FALSE(damage.intersects({300, 99, 240, 2}));
+    }
+}
+
+TEST_F(FinishedLayer, a_stroke_that_came_back_into_the_middle_has_its_place_painted_anew) {
+    const StrokeList before{freehand({a, b}, DrawingTool::pen, 1),
+                            freehand({a, b}, DrawingTool::pen, 2)};
+    StrokeList without = before;
+    without.removeIf([](const DrawingStroke& stroke) { return stroke.lineWidth == 1; });
+    drawnBy(without);
+    EXPECT_EQ(kinds(drawnBy(before)), (std::vector<Kind>{Kind::clear, Kind::stroke, Kind::stroke}));
+}
+
+TEST_F(FinishedLayer, the_same_strokes_again_draw_and_damage_nothing) {
+    const StrokeList strokes{freehand({a, b})};
+    drawnBy(strokes);
+    EXPECT_TRUE(drawnBy(strokes).empty());
+    EXPECT_TRUE(layer.update(strokes, {}).isEmpty());
+}
+
+TEST(ChangedInk, is_all_of_both_strokes_when_more_than_points_differ) {
+    RecordingGraphics graphics;
+    const FinishedStroke before(freehand({{0, 0}, {50, 0}, {100, 0}}, DrawingTool::pen, 4), 0);
+    for (const auto& after : {freehand({{0, 0}, {50, 0}, {100, 0}}, DrawingTool::pen, 5),
+                              freehand({{0, 0}, {50, 0}, {100, 0}}, DrawingTool::highlighter, 4),
+                              shape(ShapeType::circle, {0, 0, 9, 9})}) {
+        Damage changed;
+        visitChangedInk(before, FinishedStroke(after, 0), graphics,
+                        [&](const CGRect& ink) { changed.add(ink); });
+        EXPECT_TRUE(changed.intersects({0, 0, 1, 1}));
+        EXPECT_TRUE(changed.intersects({99, 0, 1, 1}));
+    }
+}
+
 TEST_F(FinishedLayer, a_new_size_paints_everything_anew) {
     const StrokeList strokes{freehand({a, b})};
     drawnBy(strokes);

@@ -270,7 +270,7 @@ TEST(SegmentIndex, finds_every_segment_near_a_rectangle) {
         }
         std::set<std::size_t> found;
         std::size_t previousPast = 0;
-        grown.forEachRunNear(curve, rect, 5, [&](std::size_t first, std::size_t past) {
+        grown.forEachRunNear(curve, PaintArea(rect), 5, [&](std::size_t first, std::size_t past) {
             ASSERT_LT(first, past);
             ASSERT_TRUE(found.empty() || first > previousPast);
             previousPast = past;
@@ -286,7 +286,8 @@ TEST(SegmentIndex, finds_every_segment_near_a_rectangle) {
 
 TEST(StrokeInk, covers_every_point_of_the_path) {
     const auto path = shapePath(ShapeType::circle, {10, 10, 800, 600}, {}, {});
-    const Damage ink = inkOfPath(path, 10);
+    Damage ink;
+    visitInkOfPath(path, 10, [&](const CGRect& piece) { ink.add(piece); });
     CGFloat area = 0;
     for (const auto& rect : ink.rects()) {
         area += rect.width * rect.height;

@@ -57,6 +57,20 @@ TEST(StrokeList, the_order_grows_and_a_replacement_takes_it_over) {
     EXPECT_GT(list.ref(2)->order(), order);
 }
 
+std::vector<StrokeRef> standingInFirstAlone(const StrokeList& first, const StrokeList& second) {
+    std::vector<StrokeRef> alone;
+    for (std::size_t index = 0; index < first.size(); ++index) {
+        bool isInBoth = false;
+        for (std::size_t other = 0; other < second.size(); ++other) {
+            isInBoth = isInBoth || second.ref(other) == first.ref(index);
+        }
+        if (!isInBoth) {
+            alone.push_back(first.ref(index));
+        }
+    }
+    return alone;
+}
+
 TEST(StrokeList, the_difference_is_that_of_the_two_sets) {
     std::mt19937 random(3);
     StrokeList list = listOf(700);
@@ -81,32 +95,48 @@ TEST(StrokeList, the_difference_is_that_of_the_two_sets) {
             }
         }
         const auto difference = StrokeList::difference(before, list);
-        const auto contains = [](const StrokeList& strokes, const StrokeRef& wanted) {
-            for (std::size_t index = 0; index < strokes.size(); ++index) {
-                if (strokes.ref(index) == wanted) {
-                    return true;
-                }
-            }
-            return false;
-        };
-        std::vector<StrokeRef> removed;
-        std::vector<StrokeRef> added;
-        for (std::size_t index = 0; index < before.size(); ++index) {
-            if (!contains(list, before.ref(index))) {
-                removed.push_back(before.ref(index));
-            }
+        std::vector<StrokeRef> removed = difference.removed;
+        std::vector<StrokeRef> added = difference.added;
+        for (const auto& [gone, come] : difference.replaced) {
+            ASSERT_EQ(gone->order(), come->order());
+            removed.push_back(gone);
+            added.push_back(come);
         }
-        for (std::size_t index = 0; index < list.size(); ++index) {
-            if (!contains(before, list.ref(index))) {
-                added.push_back(list.ref(index));
-            }
-        }
-        ASSERT_EQ(difference.removed, removed) << "round " << round;
-        ASSERT_EQ(difference.added, added) << "round " << round;
-        if (difference.isPureAppend) {
-            ASSERT_TRUE(removed.empty());
-        }
+        std::ranges::sort(removed, {}, &FinishedStroke::order);
+        std::ranges::sort(added, {}, &FinishedStroke::order);
+        ASSERT_EQ(removed, standingInFirstAlone(before, list)) << "round " << round;
+        ASSERT_EQ(added, standingInFirstAlone(list, before)) << "round " << round;
     }
+}
+
+TEST(StrokeList, a_replaced_stroke_is_told_together_with_the_one_in_its_place) {
+    const StrokeList before = listOf(600);
+    StrokeList after = before;
+    after.replace(300, freehand({{7, 7}, {8, 8}}));
+    const auto difference = StrokeList::difference(before, after);
+    ASSERT_EQ(difference.replaced.size(), 1U);
+    EXPECT_EQ(difference.replaced[0].before, before.ref(300));
+    EXPECT_EQ(difference.replaced[0].after, after.ref(300));
+    EXPECT_TRUE(difference.removed.empty());
+    EXPECT_TRUE(difference.added.empty());
+}
+
+TEST(StrokeList, finds_a_stroke_by_its_order) {
+    StrokeList list = listOf(700);
+    list.removeIf([](const DrawingStroke& stroke) {
+        return static_cast<int>(stroke.points.front().x) % 3 == 1;
+    });
+    for (std::uint64_t order = 0; order < 702; ++order) {
+        const FinishedStroke* found = list.withOrder(order);
+        ASSERT_EQ(found != nullptr, order < 700 && order % 3 != 1);
+        ASSERT_TRUE(!found || found->order() == order);
+    }
+    EXPECT_EQ(StrokeList().withOrder(0), nullptr);
+}
+
+TEST(StrokeList, equal_lists_have_no_difference) {
+    const StrokeList list = listOf(600);
+    EXPECT_TRUE(StrokeList::difference(list, list).isEmpty());
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -132,8 +133,11 @@ public:
         RecordingContext context;
 
     protected:
-        GraphicsContext& beginPainting(const CGRect& clip) override {
-            context.clip = clip;
+        GraphicsContext& beginPainting(std::span<const CGRect> clip) override {
+            context.clip = clip.empty() ? CGRect{} : clip.front();
+            for (const CGRect& rect : clip) {
+                context.clip = context.clip.unite(rect);
+            }
             return context;
         }
         void endPainting() override {}

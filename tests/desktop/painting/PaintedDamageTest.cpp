@@ -232,6 +232,57 @@ TEST_P(PaintedDamage, after_any_sequence_the_screen_is_pixel_for_pixel_the_plain
     }
 }
 
+TEST_P(PaintedDamage, among_many_strokes_erasing_and_undoing_leave_the_plain_walk) {
+    OverlayOnScreen shown(GetParam());
+    auto& state = shown.overlay.drawingState();
+    std::mt19937 random(23);
+    const auto pick = [&](int count) {
+        return static_cast<int>(random() % static_cast<unsigned>(count));
+    };
+    const auto wander = [&](int count) {
+        std::vector<CGPoint> points{{pick(2600) / 10.0 - 10, pick(1800) / 10.0 - 10}};
+        while (static_cast<int>(points.size()) < count) {
+            points.push_back(points.back() + CGPoint{pick(160) / 10.0 - 8, pick(160) / 10.0 - 8});
+        }
+        return points;
+    };
+    const auto drag = [&](DrawingTool tool, const std::vector<CGPoint>& points) {
+        shown.settings().selectedTool = tool;
+        shown.settings().lineWidth = 1 + pick(40) / 10.0;
+        shown.settings().selectedColor = pick(2) == 0 ? Color::red.opacity(0.4) : Color::blue;
+        shown.overlay.mouseDown(points.front());
+        for (const CGPoint& point : points) {
+            shown.overlay.mouseDragged(point);
+        }
+        shown.overlay.mouseUp(points.back());
+    };
+    for (int stroke = 0; stroke < 300; ++stroke) {
+        drag(pick(8) == 0 ? DrawingTool::highlighter : DrawingTool::pen, wander(3 + pick(80)));
+    }
+    for (int step = 0; step < 60; ++step) {
+        switch (pick(6)) {
+        case 0:
+            shown.overlay.clearAllAnnotations();
+            shown.update();
+            state.undo();
+            break;
+        case 1:
+            state.undo();
+            break;
+        case 2:
+            state.redo();
+            break;
+        case 3:
+            drag(DrawingTool::pen, wander(40));
+            break;
+        default:
+            drag(DrawingTool::eraser, wander(3 + pick(12)));
+        }
+        shown.update();
+        ASSERT_EQ(differingPixels(shown.screen(), shown.plainWalk(0)), 0) << "after step " << step;
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(AtEachScale, PaintedDamage, testing::Values(1.0, 1.25, 1.5, 2.0));
 
 TEST(PaintedDamage, a_stroke_that_fades_leaves_nothing_behind) {

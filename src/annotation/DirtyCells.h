@@ -1,0 +1,59 @@
+#pragma once
+
+#include "foundation/Geometry.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace quillon {
+
+/// The part of a layer that has to be painted anew, in cells of a grid. Unlike `Damage` it stays
+/// close to what was added however much that is, and knows at once whether a rectangle meets it.
+///
+/// Cells are squares of `cellPixels` device pixels, so that no pixel lies in two of them.
+class DirtyCells {
+public:
+    static constexpr int cellPixels = 8;
+
+    /// Nothing is dirty. The grid covers `size` points with `scale` device pixels each.
+    DirtyCells(CGSize size, CGFloat scale);
+
+    /// Makes every cell dirty with which `rect` shares an area. What lies outside of the grid is
+    /// left out.
+    void add(const CGRect& rect);
+
+    /// False only when `rect` shares no area with a dirty cell.
+    bool meets(const CGRect& rect) const;
+    /// Rectangles over all dirty cells and no others; no two overlap. In points.
+    std::vector<CGRect> rects() const;
+
+private:
+    /// Cells from `left` to `right` and from `top` to `bottom`, the latter not included.
+    struct Block {
+        std::size_t left = 0;
+        std::size_t top = 0;
+        std::size_t right = 0;
+        std::size_t bottom = 0;
+    };
+
+    Block blockOver(const CGRect& rect) const;
+    /// Calls `body` with the number of each word that holds a cell of the block, and the bits that
+    /// do; ends as soon as `body` answers true, and answers whether it did.
+    template <typename Body>
+    bool anyWord(const Block& block, Body&& body) const;
+    /// The longest blocks of dirty cells in one row.
+    std::vector<Block> runsIn(std::size_t row) const;
+    bool isDirty(std::size_t column, std::size_t row) const;
+    CGRect rectOf(const Block& block) const;
+
+    /// In points.
+    CGFloat m_cell;
+    std::size_t m_columns;
+    std::size_t m_rows;
+    std::size_t m_wordsInRow;
+    /// A bit for each cell, row by row.
+    std::vector<std::uint64_t> m_words;
+};
+
+} // namespace quillon
