@@ -6,6 +6,9 @@ namespace quillon {
 
 namespace {
 
+/// In square points. A rectangle of its own costs more than to paint this much beside.
+constexpr CGFloat kFreeArea = 1024;
+
 CGFloat area(const CGRect& rect) {
     return rect.width * rect.height;
 }
@@ -21,7 +24,7 @@ void Damage::add(const CGRect& rect) {
         return;
     }
     // A rectangle that follows its predecessor closely, as the tail of a stroke does, joins it.
-    if (!m_rects.empty() && costOfMerging(m_rects.back(), rect) <= 0) {
+    if (!m_rects.empty() && costOfMerging(m_rects.back(), rect) <= kFreeArea) {
         m_rects.back() = m_rects.back().unite(rect);
         return;
     }
