@@ -14,6 +14,7 @@
 #include <QWindow>
 #include <QtMath>
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -25,10 +26,6 @@ const QEvent::Type kUpdateContent = static_cast<QEvent::Type>(QEvent::registerEv
 
 /// A motion that comes this long after the last update is no part of a burst.
 constexpr std::chrono::milliseconds kQuiet{2};
-
-/// Of one rectangle: beyond this the toolkit's way costs no more. It puts the whole bounds of
-/// several.
-constexpr int kMostDirectPixels = 256 * 128;
 
 /// The smallest number of points that is a whole number of device pixels, so that a part painted by
 /// itself never shares a pixel with its surroundings. Scales are multiples of a 96th.
@@ -45,7 +42,10 @@ int pointsOfWholePixels(CGFloat scale) {
 } // namespace
 
 ContentWidget::ContentWidget(xcb_connection_t* connection, std::function<void()> onPress)
-    : m_upload(connection)
+    : m_directDrag(*this, inputExtension(connection), [this](QPointF place) { dragTo(place); })
+    , m_directPainting(
+          *this, connection,
+          [this](QPainter& painter, const QRect& rect) { paintContent(painter, rect); })
     , m_onPress(std::move(onPress)) {
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_NoSystemBackground);
@@ -145,11 +145,11 @@ void ContentWidget::putOnScreen(const QRegion& region) {
     // The widget system would go through all that could lie in the region. With no child there,
     // and the store painted before in its present size, there is nothing but the content.
     QBackingStore* store = backingStore();
-    if (!store || m_paintedSize != size() || childrenRegion().intersects(region)) {
+    if (!store || m_paintedSize != size() || isUnderChild(region)) {
         repaint(region);
         return;
     }
-    if (putOnScreenDirectly(*store, region)) {
+    if (isComposited() && m_directPainting.put(*store, region)) {
         return;
     }
     store->beginPaint(region);
@@ -160,40 +160,11 @@ void ContentWidget::putOnScreen(const QRegion& region) {
     store->flush(region);
 }
 
-bool ContentWidget::putOnScreenDirectly(QBackingStore& store, const QRegion& region) {
-    QPaintDevice* device = store.paintDevice();
-    if (!isComposited() || device->devType() != QInternal::Image) {
-        return false;
-    }
-    auto& picture = *static_cast<QImage*>(device);
-    const auto inPixels = [this](const QRect& rect) {
-        return devicePixels(fromQRectF(rect), devicePixelRatio());
-    };
-    const auto isSmall = [&](const QRect& rect) {
-        const QRect pixels = inPixels(rect);
-        return picture.rect().contains(pixels) &&
-               pixels.height() * pixels.width() <= kMostDirectPixels;
-    };
-    if (picture.format() != QImage::Format_ARGB32_Premultiplied ||
-        !std::all_of(region.begin(), region.end(), isSmall)) {
-        return false;
-    }
-    bool isPut = true;
-    for (const QRect& rect : region) {
-        QPainter painter(&picture);
-        painter.setClipRect(rect);
-        painter.setCompositionMode(QPainter::CompositionMode_Clear);
-        painter.fillRect(rect, Qt::transparent);
-        painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-        paintContent(painter, rect);
-        painter.end();
-        isPut = isPut && m_upload.put(static_cast<xcb_window_t>(internalWinId()),
-                                      {picture.constBits(),
-                                       static_cast<std::size_t>(picture.bytesPerLine())},
-                                      toXRectangle(inPixels(rect)));
-    }
-    m_upload.flush();
-    return isPut;
+bool ContentWidget::isUnderChild(const QRegion& region) const {
+    return std::ranges::any_of(children(), [&](const QObject* child) {
+        const auto* widget = qobject_cast<const QWidget*>(child);
+        return widget && widget->isVisible() && region.intersects(widget->geometry());
+    });
 }
 
 void ContentWidget::display() {
@@ -255,18 +226,29 @@ void ContentWidget::mousePressEvent(QMouseEvent* event) {
             m_textField->finishComposing();
         }
         m_content->rootView->mouseDown(fromQPointF(event->position()));
+        m_directDrag.delivered(*event);
     }
 }
 
 void ContentWidget::mouseMoveEvent(QMouseEvent* event) {
-    if (event->buttons().testFlag(Qt::LeftButton) && m_content) {
-        m_content->rootView->mouseDragged(fromQPointF(event->position()));
+    if (event->buttons().testFlag(Qt::LeftButton)) {
+        if (!m_directDrag.isMadeUp(*event)) {
+            dragTo(event->position());
+        }
+        m_directDrag.delivered(*event);
+    }
+}
+
+void ContentWidget::dragTo(QPointF place) {
+    if (m_content) {
+        m_content->rootView->mouseDragged(fromQPointF(place));
         updateAtOnceIfQuiet();
     }
 }
 
 void ContentWidget::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton && m_content) {
+        m_directDrag.end();
         m_content->rootView->mouseUp(fromQPointF(event->position()));
     }
 }

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "desktop/qt/DirectDrag.h"
+#include "desktop/qt/DirectPainting.h"
 #include "desktop/qt/InkMask.h"
-#include "desktop/x11/PixelUpload.h"
 #include "platform/Window.h"
 
 #include <QColor>
@@ -11,8 +12,6 @@
 #include <functional>
 #include <memory>
 #include <optional>
-
-class QBackingStore;
 
 namespace quillon::desktop {
 
@@ -67,6 +66,7 @@ protected:
 
 private:
     void adoptRootView();
+    void dragTo(QPointF place);
     void requestUpdate();
     void updateIfNeeded();
     /// Spares a motion that stands alone the way through the event queue, while in a burst the
@@ -81,15 +81,14 @@ private:
     QRegion regionOf(const Damage& damage) const;
     /// Paints the region and puts it on the screen at once.
     void putOnScreen(const QRegion& region);
-    /// The same for small rectangles, with no help of the widget system; false when that cannot
-    /// be done.
-    bool putOnScreenDirectly(QBackingStore& store, const QRegion& region);
+    bool isUnderChild(const QRegion& region) const;
     void paintRegion(QPainter& painter, const QRegion& region);
     void paintContent(QPainter& painter, const QRect& rect);
     void paintOutlined(QPainter& painter, const QRect& rect);
     void tellOutline();
 
-    PixelUpload m_upload;
+    DirectDrag m_directDrag;
+    DirectPainting m_directPainting;
     std::function<void()> m_onPress;
     std::shared_ptr<HostingView> m_content;
     QColor m_backgroundColor;

@@ -1,0 +1,69 @@
+#include "desktop/qt/DirectPainting.h"
+
+#include "desktop/qt/QtConversions.h"
+
+#include <QBackingStore>
+#include <QPainter>
+#include <QWidget>
+
+#include <algorithm>
+#include <utility>
+
+namespace quillon::desktop {
+
+namespace {
+
+/// Of one rectangle: beyond this the toolkit's way costs no more.
+constexpr int kMostPixels = 256 * 128;
+
+/// The image in which a store keeps its picture, if it does so in the window's own format.
+QImage* imageOf(QBackingStore& store) {
+    QPaintDevice* device = store.paintDevice();
+    if (device->devType() != QInternal::Image) {
+        return nullptr;
+    }
+    auto* image = static_cast<QImage*>(device);
+    return image->format() == QImage::Format_ARGB32_Premultiplied ? image : nullptr;
+}
+
+} // namespace
+
+DirectPainting::DirectPainting(const QWidget& widget, xcb_connection_t* connection, Paint paint)
+    : m_widget(widget)
+    , m_upload(connection)
+    , m_paint(std::move(paint)) {}
+
+bool DirectPainting::put(QBackingStore& store, const QRegion& region) {
+    QImage* const picture = imageOf(store);
+    const auto inPixels = [this](const QRect& rect) {
+        return devicePixels(fromQRectF(rect), m_widget.devicePixelRatio());
+    };
+    const auto isSmall = [&](const QRect& rect) {
+        const QRect pixels = inPixels(rect);
+        return picture->rect().contains(pixels) && pixels.height() * pixels.width() <= kMostPixels;
+    };
+    if (!picture || !std::all_of(region.begin(), region.end(), isSmall)) {
+        return false;
+    }
+    const PixelSource source{picture->constBits(),
+                             static_cast<std::size_t>(picture->bytesPerLine())};
+    const auto window = static_cast<xcb_window_t>(m_widget.internalWinId());
+    bool isPut = true;
+    for (const QRect& rect : region) {
+        paint(*picture, rect);
+        isPut = m_upload.put(window, source, toXRectangle(inPixels(rect))) && isPut;
+    }
+    m_upload.flush();
+    return isPut;
+}
+
+void DirectPainting::paint(QImage& picture, const QRect& rect) const {
+    QPainter painter(&picture);
+    painter.setClipRect(rect);
+    painter.setCompositionMode(QPainter::CompositionMode_Clear);
+    painter.fillRect(rect, Qt::transparent);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    m_paint(painter, rect);
+}
+
+} // namespace quillon::desktop

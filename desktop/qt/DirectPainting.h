@@ -1,0 +1,40 @@
+#pragma once
+
+#include "desktop/x11/PixelUpload.h"
+
+#include <QRegion>
+
+#include <functional>
+
+class QBackingStore;
+class QPainter;
+class QWidget;
+
+namespace quillon::desktop {
+
+/// Brings small parts of a widget's picture to the screen by the shortest way: they are painted
+/// into the widget's backing store and go from there straight into its window, each in one request.
+/// The widget system would first go through all that could lie there, and put the whole bounds of
+/// several parts.
+class DirectPainting {
+public:
+    /// Paints what stands in the rectangle, in points of the widget, over full transparency.
+    using Paint = std::function<void(QPainter&, const QRect&)>;
+
+    /// `connection` is the toolkit's; with none, nothing can be put.
+    DirectPainting(const QWidget& widget, xcb_connection_t* connection, Paint paint);
+
+    /// Paints the region, which is made of whole device pixels and holds no part of a child widget.
+    /// False, with nothing on the screen, when it is large or the store is none of the kind that is
+    /// known here.
+    bool put(QBackingStore& store, const QRegion& region);
+
+private:
+    void paint(QImage& picture, const QRect& rect) const;
+
+    const QWidget& m_widget;
+    PixelUpload m_upload;
+    Paint m_paint;
+};
+
+} // namespace quillon::desktop
