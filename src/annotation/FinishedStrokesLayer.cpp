@@ -23,8 +23,7 @@ Damage FinishedStrokesLayer::update(const StrokeList& strokes, FadingStrokes fad
     if (m_strokes.empty() && m_fading.empty()) {
         m_bitmap.reset();
     } else if (!m_bitmap) {
-        m_bitmap = m_graphics.makeBitmap(m_size, m_scale);
-        repaintAll();
+        paintAll();
     } else if (drawsOnTop) {
         drawOnTop(*difference.added.front());
     } else {
@@ -105,9 +104,9 @@ void FinishedStrokesLayer::repaint(const DirtyCells& dirty) {
     });
 }
 
-void FinishedStrokesLayer::repaintAll() {
+void FinishedStrokesLayer::paintAll() {
+    m_bitmap = m_graphics.makeBitmap(m_size, m_scale);
     m_bitmap->paint({0, 0, m_size.width, m_size.height}, [&](GraphicsContext& context) {
-        context.clear(context.clipBounds());
         drawStrokes(context, m_strokes, m_graphics, m_fading);
     });
 }

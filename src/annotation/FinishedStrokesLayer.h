@@ -37,7 +37,8 @@ private:
                     const DirtyCells& dirty) const;
     void drawOnTop(const FinishedStroke& added);
     void repaint(const DirtyCells& dirty);
-    void repaintAll();
+    /// Into a fresh bitmap.
+    void paintAll();
 
     Graphics& m_graphics;
     CGSize m_size;

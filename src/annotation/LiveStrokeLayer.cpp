@@ -13,6 +13,12 @@ std::size_t lastSegmentOf(const DrawingStroke& stroke) {
 
 } // namespace
 
+void LiveStrokeLayer::layout(CGSize size, CGFloat scale) {
+    m_size = size;
+    m_scale = scale;
+    m_shape.reset();
+}
+
 Damage LiveStrokeLayer::update(const std::optional<DrawingStroke>& stroke) {
     const bool hasGrown = stroke && m_painted && stroke->id() == m_painted->id &&
                           formOf(*stroke) == StrokeForm::freehand && !stroke->isShape &&
@@ -27,6 +33,11 @@ Damage LiveStrokeLayer::update(const std::optional<DrawingStroke>& stroke) {
     }
     if (stroke) {
         damage.add(showOther(*stroke));
+    }
+    if (stroke && formOf(*stroke) == StrokeForm::shape) {
+        compose(*stroke, damage);
+    } else {
+        m_shape.reset();
     }
     return damage;
 }
@@ -54,9 +65,21 @@ Damage LiveStrokeLayer::showGrown(const DrawingStroke& stroke) {
     return damage;
 }
 
+void LiveStrokeLayer::compose(const DrawingStroke& shape, const Damage& damage) {
+    if (!m_shape) {
+        m_shape = m_graphics.makeBitmap(m_size, m_scale);
+    }
+    m_shape->paint(damage.rects(), [&](GraphicsContext& context) {
+        context.clear(context.clipBounds());
+        drawStroke(context, shape, blendModeOf(shape.tool), m_painted->segments);
+    });
+}
+
 void LiveStrokeLayer::draw(GraphicsContext& context,
                            const std::optional<DrawingStroke>& stroke) const {
-    if (stroke && m_painted) {
+    if (m_shape) {
+        context.draw(*m_shape, context.clipBounds());
+    } else if (stroke && m_painted) {
         drawStroke(context, *stroke, blendModeOf(stroke->tool), m_painted->segments);
     }
 }

@@ -155,6 +155,7 @@ void OverlayContainerView::bringStackUpToDate() {
 void OverlayContainerView::layout(CGSize size, CGFloat scale) {
     m_size = size;
     m_finishedLayer.layout(size, scale);
+    m_liveLayer.layout(size, scale);
     m_pendingDamage.add(bounds());
     setNeedsUpdate();
 }

@@ -21,7 +21,7 @@ public:
     virtual CGFloat scale() const = 0;
 
     /// Calls `body` with a context that paints into the bitmap and nowhere but in the rectangles of
-    /// `clip`, which are widened to whole device pixels. They must not overlap.
+    /// `clip`, which are widened to whole device pixels and may overlap.
     template <typename Body>
     void paint(std::span<const CGRect> clip, Body&& body) {
         body(beginPainting(clip));

@@ -106,6 +106,37 @@ TEST_F(LiveLayer, a_shape_that_moved_damages_its_old_place_and_its_new_one) {
     EXPECT_TRUE(damage.intersects({89, 10, 2, 1}));
 }
 
+TEST_F(LiveLayer, a_shape_is_drawn_once_for_each_move_and_copied_from_then_on) {
+    layer.layout({1000, 700}, 1);
+    DrawingStroke stroke = shape(ShapeType::circle, {0, 0, 50, 50});
+    for (const CGFloat side : {200.0, 300.0}) {
+        stroke.shapeRect = CodableRect(CGRect{0, 0, side, side});
+        layer.update(stroke);
+        const auto& drawn = graphics.lastBitmap->context.drawings;
+        ASSERT_EQ(drawn.back().kind, Kind::stroke);
+        EXPECT_EQ(drawn.back().path.controlPointBounds(), (CGRect{0, 0, side, side}));
+        EXPECT_EQ(drawn[drawn.size() - 2].kind, Kind::clear);
+    }
+    RecordingContext screen;
+    layer.draw(screen, stroke);
+    ASSERT_EQ(screen.drawings.size(), 1U);
+    EXPECT_EQ(screen.drawings[0].kind, Kind::bitmap);
+}
+
+TEST_F(LiveLayer, after_a_shape_a_freehand_stroke_is_drawn_directly) {
+    layer.layout({1000, 700}, 1);
+    layer.update(shape(ShapeType::circle, {0, 0, 50, 50}));
+    const DrawingStroke stroke = shown();
+    RecordingContext screen;
+    layer.draw(screen, stroke);
+    ASSERT_EQ(screen.drawings.size(), 1U);
+    EXPECT_EQ(screen.drawings[0].kind, Kind::stroke);
+    layer.update(shape(ShapeType::circle, {0, 0, 50, 50}));
+    layer.update(std::nullopt);
+    layer.draw(screen, std::nullopt);
+    EXPECT_EQ(screen.drawings.size(), 1U);
+}
+
 class FinishedLayer : public testing::Test {
 protected:
     FinishedLayer() { layer.layout({1000, 700}, 1); }
@@ -139,7 +170,7 @@ TEST_F(FinishedLayer, there_is_no_bitmap_while_there_is_nothing_to_show) {
 }
 
 TEST_F(FinishedLayer, the_first_stroke_paints_everything) {
-    EXPECT_EQ(kinds(drawnBy({freehand({a, b})})), (std::vector<Kind>{Kind::clear, Kind::stroke}));
+    EXPECT_EQ(kinds(drawnBy({freehand({a, b})})), (std::vector<Kind>{Kind::stroke}));
     EXPECT_EQ(graphics.lastBitmap->context.clip, (CGRect{0, 0, 1000, 700}));
 }
 
@@ -259,7 +290,7 @@ TEST_F(FinishedLayer, a_new_size_paints_everything_anew) {
     drawnBy(strokes);
     layer.layout({300, 200}, 2);
     graphics.lastBitmap = nullptr;
-    EXPECT_EQ(kinds(drawnBy(strokes)), (std::vector<Kind>{Kind::clear, Kind::stroke}));
+    EXPECT_EQ(kinds(drawnBy(strokes)), (std::vector<Kind>{Kind::stroke}));
     EXPECT_EQ(graphics.lastBitmap->context.clip, (CGRect{0, 0, 300, 200}));
     EXPECT_EQ(graphics.lastBitmap->scale(), 2);
 }

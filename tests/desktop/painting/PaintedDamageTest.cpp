@@ -256,10 +256,10 @@ TEST_P(PaintedDamage, among_many_strokes_erasing_and_undoing_leave_the_plain_wal
         }
         shown.overlay.mouseUp(points.back());
     };
-    for (int stroke = 0; stroke < 300; ++stroke) {
+    for (int stroke = 0; stroke < 200; ++stroke) {
         drag(pick(8) == 0 ? DrawingTool::highlighter : DrawingTool::pen, wander(3 + pick(80)));
     }
-    for (int step = 0; step < 60; ++step) {
+    for (int step = 0; step < 40; ++step) {
         switch (pick(6)) {
         case 0:
             shown.overlay.clearAllAnnotations();
