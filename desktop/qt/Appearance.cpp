@@ -71,6 +71,14 @@ QColor popupMaterial(const QPalette& palette) {
     return isDark(palette) ? QColor(44, 44, 48, 248) : QColor(250, 250, 252, 248);
 }
 
+QColor pageGround(const QPalette& palette) {
+    return blended(palette.color(QPalette::Window), palette.color(QPalette::WindowText), 0.02F);
+}
+
+QColor groupGround(const QPalette& palette) {
+    return blended(palette.color(QPalette::Window), Qt::white, isDark(palette) ? 0.06F : 0.75F);
+}
+
 QColor separator(const QPalette& palette) {
     return toQColor(SystemColor::labelColor.opacity(0.12), palette);
 }
@@ -83,7 +91,7 @@ QColor outline(const QPalette& palette) {
     return toQColor(SystemColor::labelColor.opacity(0.28), palette);
 }
 
-QColor hairline(const QPalette& palette) {
+QColor panelEdge(const QPalette& palette) {
     return isDark(palette) ? QColor(0, 0, 0, 120) : QColor(0, 0, 0, 38);
 }
 

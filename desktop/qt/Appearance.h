@@ -3,7 +3,6 @@
 #include "platform/SystemColor.h"
 
 #include <QColor>
-#include <QFont>
 #include <QPalette>
 #include <QPixmap>
 
@@ -25,6 +24,9 @@ QColor toQColor(const SystemColor& color, const QPalette& palette);
 QColor panelMaterial(const QPalette& palette);
 /// The nearly opaque material of menus and popovers, which are read at leisure.
 QColor popupMaterial(const QPalette& palette);
+/// The ground of a page, and that of a group of rows on it.
+QColor pageGround(const QPalette& palette);
+QColor groupGround(const QPalette& palette);
 /// The thin line between two parts.
 QColor separator(const QPalette& palette);
 /// The empty part of a switch or a slider.
@@ -32,11 +34,7 @@ QColor emptyTrack(const QPalette& palette);
 /// The line around a control or a colour.
 QColor outline(const QPalette& palette);
 /// The line round a panel or a popup.
-QColor hairline(const QPalette& palette);
-
-/// Text styles, in logical pixels.
-inline constexpr qreal kCaptionSize = 11;
-inline constexpr qreal kTitle2Size = 17;
+QColor panelEdge(const QPalette& palette);
 
 /// The symbol of that name in one colour, drawn for a square of `side` points at `scale` device
 /// pixels to a point. A name without a glyph gives an empty picture.

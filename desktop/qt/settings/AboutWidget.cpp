@@ -2,7 +2,7 @@
 
 #include "desktop/qt/Appearance.h"
 #include "desktop/qt/QtImages.h"
-#include "desktop/qt/settings/Look.h"
+#include "desktop/qt/TextStyles.h"
 #include "desktop/qt/settings/RoleLabel.h"
 #include "desktop/qt/widgets/Divider.h"
 
@@ -68,10 +68,11 @@ AboutWidget::AboutWidget(const AboutPage& page, QWidget* parent)
                               : new QWidget(this);
     icon->setFixedSize(iconSize);
     column->addWidget(icon, 0, Qt::AlignHCenter);
-    column->addWidget(makeText(page.name, look::title(), SystemColor::labelColor), 0,
+    column->addWidget(makeText(page.name, textStyle::title(), SystemColor::labelColor), 0,
                       Qt::AlignHCenter);
-    column->addWidget(makeText(page.purpose, look::headline(), SystemColor::secondaryLabelColor), 0,
-                      Qt::AlignHCenter);
+    column->addWidget(
+        makeText(page.purpose, textStyle::headline(), SystemColor::secondaryLabelColor), 0,
+        Qt::AlignHCenter);
     column->addWidget(Divider::across());
 
     auto* facts = new QWidget;
@@ -84,7 +85,8 @@ AboutWidget::AboutWidget(const AboutPage& page, QWidget* parent)
         line->addWidget(new Picture(Image{Image::Kind::symbol, fact.symbol, {}, {}},
                                     {kFactSymbolSize, kFactSymbolSize},
                                     SystemColor::secondaryLabelColor));
-        line->addWidget(makeText(fact.text, look::subheadline(), SystemColor::secondaryLabelColor));
+        line->addWidget(
+            makeText(fact.text, textStyle::subheadline(), SystemColor::secondaryLabelColor));
         line->addStretch();
         lines->addLayout(line);
     }

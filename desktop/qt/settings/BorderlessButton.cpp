@@ -1,6 +1,7 @@
 #include "desktop/qt/settings/BorderlessButton.h"
 
-#include "desktop/qt/settings/Look.h"
+#include "desktop/qt/Appearance.h"
+#include "desktop/qt/TextStyles.h"
 #include "desktop/qt/widgets/FocusRing.h"
 
 #include <QPainter>
@@ -16,7 +17,7 @@ constexpr qreal kCornerRadius = 5;
 BorderlessButton::BorderlessButton(const QString& text, QWidget* parent)
     : QPushButton(text, parent) {
     setFlat(true);
-    setFont(look::body());
+    setFont(textStyle::body());
     setAttribute(Qt::WA_Hover);
 }
 
@@ -27,7 +28,8 @@ void BorderlessButton::paintEvent(QPaintEvent* /*event*/) {
                                                   -FocusRing::room, -FocusRing::room);
     if (isEnabled() && (underMouse() || isDown())) {
         painter.setPen(Qt::NoPen);
-        painter.setBrush(isDown() ? look::track(palette()) : look::hairline(palette()));
+        painter.setBrush(
+            toQColor(SystemColor::labelColor.opacity(isDown() ? 0.18 : 0.1), palette()));
         painter.drawRoundedRect(ground, kCornerRadius, kCornerRadius);
     }
     painter.setPen(palette().color(QPalette::WindowText));

@@ -3,7 +3,7 @@
 #include "desktop/qt/Appearance.h"
 #include "desktop/qt/QtConversions.h"
 #include "desktop/qt/QtImages.h"
-#include "desktop/qt/settings/Look.h"
+#include "desktop/qt/TextStyles.h"
 #include "desktop/qt/settings/ShortcutRowWidget.h"
 #include "desktop/qt/settings/SwatchWidget.h"
 #include "desktop/qt/settings/SwitchWidget.h"
@@ -45,7 +45,7 @@ QWidget* makeRow(const std::string& label, std::initializer_list<QWidget*> contr
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(kSpacing);
-    layout->addWidget(makeLabel(label, look::body()));
+    layout->addWidget(makeLabel(label, textStyle::body()));
     layout->addStretch();
     for (QWidget* control : controls) {
         layout->addWidget(control);
@@ -56,9 +56,9 @@ QWidget* makeRow(const std::string& label, std::initializer_list<QWidget*> contr
 /// The symbol beside a slider's end.
 class EndSymbol : public QWidget {
 public:
-    EndSymbol(const std::string& symbol, int size)
+    EndSymbol(const std::string& symbol, qreal size)
         : m_symbol(text(symbol)) {
-        setFixedSize(size + 2, size + 2);
+        setFixedSize(qRound(size) + 2, qRound(size) + 2);
     }
 
 protected:
@@ -92,7 +92,7 @@ struct RowMaker {
     FormRowWidgets operator()(const PickerRow& row) const {
         auto* picker = new Unscrolled<QComboBox>;
         picker->setAccessibleName(text(row.title));
-        picker->setFont(look::body());
+        picker->setFont(textStyle::body());
         for (const auto& entry : row.entries) {
             picker->addItem(text(entry));
         }
@@ -111,7 +111,7 @@ struct RowMaker {
         slider->setAccessibleName(text(row.label));
         slider->setFixedWidth(qRound(row.sliderWidth));
         slider->setValue(row.stop());
-        auto* value = makeLabel(row.text(), look::monospacedCaption());
+        auto* value = makeLabel(row.text(), textStyle::monospacedCaption());
         value->setFixedWidth(qRound(row.valueWidth));
         value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         QObject::connect(slider, &QSlider::valueChanged, slider,
@@ -126,8 +126,8 @@ struct RowMaker {
         if (!row.ends) {
             return {makeRow(row.label, {slider, value}), refresh};
         }
-        auto* minimum = new EndSymbol(row.ends->symbol, look::captionSize);
-        auto* maximum = new EndSymbol(row.ends->symbol, look::title2Size);
+        auto* minimum = new EndSymbol(row.ends->symbol, textStyle::captionSize);
+        auto* maximum = new EndSymbol(row.ends->symbol, textStyle::title2Size);
         return {makeRow(row.label, {minimum, slider, maximum, value}), refresh};
     }
 

@@ -1,8 +1,8 @@
 #include "desktop/qt/settings/FormWidget.h"
 
+#include "desktop/qt/TextStyles.h"
 #include "desktop/qt/settings/FormRows.h"
 #include "desktop/qt/settings/GroupBox.h"
-#include "desktop/qt/settings/Look.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -69,7 +69,7 @@ void FormWidget::addSection(QVBoxLayout& column, const FormSection& section,
     }
     auto* title = new QLabel(QString::fromStdString(section.title));
     title->setTextFormat(Qt::PlainText);
-    title->setFont(look::headline());
+    title->setFont(textStyle::headline());
     title->setIndent(kTitleIndent);
     column.addWidget(title);
 

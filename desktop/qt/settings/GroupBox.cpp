@@ -1,7 +1,6 @@
 #include "desktop/qt/settings/GroupBox.h"
 
 #include "desktop/qt/Appearance.h"
-#include "desktop/qt/settings/Look.h"
 
 #include <QPainter>
 #include <QVBoxLayout>
@@ -30,7 +29,7 @@ void GroupBox::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(separator(palette()), 1));
-    painter.setBrush(look::group(palette()));
+    painter.setBrush(groupGround(palette()));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kCornerRadius,
                             kCornerRadius);
     for (int index = 1; index < m_rows->count(); ++index) {

@@ -1,9 +1,9 @@
 #include "desktop/qt/settings/SettingsWidget.h"
 
+#include "desktop/qt/Appearance.h"
 #include "desktop/qt/QtImages.h"
 #include "desktop/qt/settings/AboutWidget.h"
 #include "desktop/qt/settings/FormWidget.h"
-#include "desktop/qt/settings/Look.h"
 #include "desktop/qt/settings/TabStripWidget.h"
 
 #include <QAction>
@@ -88,7 +88,7 @@ bool SettingsWidget::event(QEvent* event) {
 }
 
 void SettingsWidget::paintEvent(QPaintEvent* /*event*/) {
-    QPainter(this).fillRect(rect(), look::page(palette()));
+    QPainter(this).fillRect(rect(), pageGround(palette()));
 }
 
 void SettingsWidget::requestRefresh() {

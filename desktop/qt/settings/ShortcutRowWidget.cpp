@@ -1,8 +1,8 @@
 #include "desktop/qt/settings/ShortcutRowWidget.h"
 
+#include "desktop/qt/TextStyles.h"
 #include "desktop/qt/settings/BorderlessButton.h"
 #include "desktop/qt/settings/Capsule.h"
-#include "desktop/qt/settings/Look.h"
 #include "desktop/qt/settings/RecorderWidget.h"
 
 #include <QHBoxLayout>
@@ -47,7 +47,7 @@ void ShortcutRowWidget::refresh() {
 
 void ShortcutRowWidget::showBinding(const ShortcutRowState& state) {
     m_binding->setFilled(state.binding.has_value());
-    m_binding->setFont(state.binding ? look::roundedBoldCaption() : look::body());
+    m_binding->setFont(state.binding ? textStyle::roundedBoldCaption() : textStyle::body());
     m_binding->setText(state.binding ? QString::fromStdString(*state.binding)
                                      : QString::fromUtf8(ShortcutRow::notSetText));
     m_binding->setRole(state.binding ? SystemColor::labelColor : SystemColor::secondaryLabelColor);

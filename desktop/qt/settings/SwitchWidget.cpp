@@ -1,7 +1,6 @@
 #include "desktop/qt/settings/SwitchWidget.h"
 
 #include "desktop/qt/Appearance.h"
-#include "desktop/qt/settings/Look.h"
 #include "desktop/qt/widgets/FocusRing.h"
 
 #include <QPainter>

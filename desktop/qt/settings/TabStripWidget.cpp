@@ -1,7 +1,6 @@
 #include "desktop/qt/settings/TabStripWidget.h"
 
 #include "desktop/qt/Appearance.h"
-#include "desktop/qt/settings/Look.h"
 #include "desktop/qt/settings/TabButtonWidget.h"
 #include "desktop/qt/widgets/Divider.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desktop/qt/Appearance.h"
-#include "desktop/qt/QtConversions.h"
+#include "desktop/qt/TextStyles.h"
 
 #include <QLabel>
 
@@ -12,7 +12,7 @@ class CaptionLabel : public QLabel {
 public:
     explicit CaptionLabel(const QString& text)
         : QLabel(text) {
-        setFont(systemFont(kCaptionSize));
+        setFont(textStyle::caption());
         QPalette look = palette();
         look.setColor(QPalette::WindowText, toQColor(SystemColor::secondaryLabelColor, look));
         setPalette(look);

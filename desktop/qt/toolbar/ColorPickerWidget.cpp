@@ -1,13 +1,13 @@
 #include "desktop/qt/toolbar/ColorPickerWidget.h"
 
 #include "desktop/qt/QtConversions.h"
+#include "desktop/qt/TextStyles.h"
 #include "desktop/qt/toolbar/CaptionLabel.h"
 #include "desktop/qt/toolbar/HueSaturationWidget.h"
 #include "desktop/qt/toolbar/QuickColorsWidget.h"
 #include "desktop/qt/widgets/Divider.h"
 #include "desktop/qt/widgets/Swatch.h"
 
-#include <QFontDatabase>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -82,9 +82,7 @@ void ColorPickerWidget::addCurrentColor(QVBoxLayout& column) {
                             View::currentSwatchBorderWidth});
     row->addWidget(m_current);
     m_hex = new CaptionLabel({});
-    QFont monospaced = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    monospaced.setPixelSize(m_hex->font().pixelSize());
-    m_hex->setFont(monospaced);
+    m_hex->setFont(textStyle::monospacedCaption());
     row->addWidget(m_hex);
     column.addLayout(row);
 }

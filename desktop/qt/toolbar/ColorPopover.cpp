@@ -77,7 +77,7 @@ void ColorPopover::paintEvent(QPaintEvent* /*event*/) {
                                 {m_arrowX, panel.center().y()}}));
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(hairline(palette()));
+    painter.setPen(panelEdge(palette()));
     painter.setBrush(popupMaterial(palette()));
     painter.drawPath(surfaceOutline(*this, panel, kRadius).united(arrow));
 }

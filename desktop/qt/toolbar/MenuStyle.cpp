@@ -69,7 +69,7 @@ void MenuStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing);
         const QRectF panel = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
-        painter->setPen(hairline(option->palette));
+        painter->setPen(panelEdge(option->palette));
         painter->setBrush(popupMaterial(option->palette));
         painter->drawPath(surfaceOutline(*widget, panel, kPanelRadius));
         painter->restore();

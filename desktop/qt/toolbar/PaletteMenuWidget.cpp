@@ -2,6 +2,7 @@
 
 #include "desktop/qt/Appearance.h"
 #include "desktop/qt/QtImages.h"
+#include "desktop/qt/TextStyles.h"
 #include "desktop/qt/toolbar/BoundSlider.h"
 #include "desktop/qt/toolbar/CaptionLabel.h"
 #include "desktop/qt/toolbar/PresetButton.h"
@@ -120,9 +121,9 @@ void PaletteMenuWidget::build(const LineWidthMenu& menu) {
                                        toQColor(SystemColor::labelColor, palette())));
         sliderRow->addWidget(symbol);
     };
-    addSymbol(menu.slider.minimumIcon, kCaptionSize);
+    addSymbol(menu.slider.minimumIcon, textStyle::captionSize);
     sliderRow->addWidget(m_slider);
-    addSymbol(menu.slider.maximumIcon, kTitle2Size);
+    addSymbol(menu.slider.maximumIcon, textStyle::title2Size);
     column->addLayout(sliderRow);
 
     m_focus.addRow({m_slider});

@@ -71,7 +71,7 @@ QImage Panel::draw(QSizeF size, qreal scale, const QPalette& palette) const {
     const qreal inset = PalettePanel::borderLineWidth / 2;
     const QPainterPath border = roundedPath(panel.adjusted(inset, inset, -inset, -inset),
                                             PalettePanel::cornerRadius - inset);
-    for (const QColor& color : {hairline(palette), toQColor(PalettePanel::borderColor)}) {
+    for (const QColor& color : {panelEdge(palette), toQColor(PalettePanel::borderColor)}) {
         painter.strokePath(border, QPen(color, PalettePanel::borderLineWidth));
     }
     return picture;
