@@ -1,7 +1,6 @@
 #include "desktop/qt/QtImages.h"
 
 #include <QFile>
-#include <QPainter>
 
 namespace quillon::desktop {
 
@@ -33,17 +32,6 @@ std::optional<Image> QtImages::symbol(std::string_view name,
 QIcon QtImages::icon(const Image& image, SymbolTint tint) {
     return SymbolIcon::make(path(image.kind, image.name),
                             image.kind == Image::Kind::symbol ? tint : SymbolTint::none);
-}
-
-QPixmap QtImages::symbolPixmap(const QString& name, QSize size, qreal scale, const QColor& color) {
-    const QIcon icon =
-        SymbolIcon::make(path(Image::Kind::symbol, name.toStdString()), SymbolTint::none);
-    QPixmap pixmap = icon.pixmap(size, scale);
-    pixmap.setDevicePixelRatio(scale);
-    QPainter painter(&pixmap);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(QRect(QPoint(), size), color);
-    return pixmap;
 }
 
 } // namespace quillon::desktop

@@ -3,10 +3,6 @@
 #include "desktop/qt/SymbolIcon.h"
 #include "platform/Image.h"
 
-#include <QColor>
-#include <QPixmap>
-#include <QString>
-
 namespace quillon::desktop {
 
 /// The pictures that are compiled into the program: symbols under "symbols/", assets beside it.
@@ -19,9 +15,6 @@ public:
     /// What stands for `image` on the screen. The tint applies to symbols; an asset keeps its
     /// colours.
     static QIcon icon(const Image& image, SymbolTint tint);
-    /// A symbol in one colour, in points by `scale` device pixels each. Nothing to see when there
-    /// is no such symbol.
-    static QPixmap symbolPixmap(const QString& name, QSize size, qreal scale, const QColor& color);
 };
 
 } // namespace quillon::desktop

@@ -1,16 +1,12 @@
 #include "desktop/qt/settings/AboutWidget.h"
 
-#include "desktop/qt/Appearance.h"
-#include "desktop/qt/QtImages.h"
 #include "desktop/qt/TextStyles.h"
-#include "desktop/qt/settings/RoleLabel.h"
 #include "desktop/qt/widgets/Divider.h"
+#include "desktop/qt/widgets/Label.h"
+#include "desktop/qt/widgets/Picture.h"
 
 #include <QHBoxLayout>
-#include <QPainter>
 #include <QVBoxLayout>
-
-#include <utility>
 
 namespace quillon::desktop {
 
@@ -18,39 +14,6 @@ namespace {
 
 constexpr int kPadding = 16;
 constexpr int kFactSymbolSize = 16;
-
-/// A symbol in the colour of its part, or an asset in its own.
-class Picture : public QWidget {
-public:
-    Picture(Image image, QSize size, SystemColor tint)
-        : m_image(std::move(image))
-        , m_tint(tint) {
-        setFixedSize(size);
-    }
-
-protected:
-    void paintEvent(QPaintEvent* /*event*/) override {
-        QPainter painter(this);
-        if (m_image.kind == Image::Kind::asset) {
-            QtImages::icon(m_image, SymbolTint::none).paint(&painter, rect());
-            return;
-        }
-        painter.drawPixmap(0, 0,
-                           QtImages::symbolPixmap(QString::fromStdString(m_image.name), size(),
-                                                  devicePixelRatio(), toQColor(m_tint, palette())));
-    }
-
-private:
-    Image m_image;
-    SystemColor m_tint;
-};
-
-QWidget* makeText(const std::string& string, const QFont& font, SystemColor role) {
-    auto* label = new RoleLabel(role);
-    label->setText(QString::fromStdString(string));
-    label->setFont(font);
-    return label;
-}
 
 } // namespace
 
@@ -62,16 +25,14 @@ AboutWidget::AboutWidget(const AboutPage& page, QWidget* parent)
     column->setSpacing(qRound(AboutPage::spacing));
     column->addStretch();
 
-    const QSize iconSize(qRound(AboutPage::iconSize.width), qRound(AboutPage::iconSize.height));
-    QWidget* const icon = page.icon
-                              ? new Picture(*page.icon, iconSize, SystemColor::controlAccentColor)
-                              : new QWidget(this);
-    icon->setFixedSize(iconSize);
+    const qreal side = AboutPage::iconSize.width;
+    QWidget* const icon = page.icon ? new Picture(*page.icon, side, SystemColor::controlAccentColor)
+                                    : new QWidget(this);
+    icon->setFixedSize(qRound(side), qRound(side));
     column->addWidget(icon, 0, Qt::AlignHCenter);
-    column->addWidget(makeText(page.name, textStyle::title(), SystemColor::labelColor), 0,
-                      Qt::AlignHCenter);
+    column->addWidget(new Label(page.name, textStyle::title()), 0, Qt::AlignHCenter);
     column->addWidget(
-        makeText(page.purpose, textStyle::headline(), SystemColor::secondaryLabelColor), 0,
+        new Label(page.purpose, textStyle::headline(), SystemColor::secondaryLabelColor), 0,
         Qt::AlignHCenter);
     column->addWidget(Divider::across());
 
@@ -82,11 +43,10 @@ AboutWidget::AboutWidget(const AboutPage& page, QWidget* parent)
     for (const AboutLine& fact : page.lines) {
         auto* line = new QHBoxLayout;
         line->setSpacing(kFactSymbolSize / 2);
-        line->addWidget(new Picture(Image{Image::Kind::symbol, fact.symbol, {}, {}},
-                                    {kFactSymbolSize, kFactSymbolSize},
-                                    SystemColor::secondaryLabelColor));
         line->addWidget(
-            makeText(fact.text, textStyle::subheadline(), SystemColor::secondaryLabelColor));
+            Picture::ofSymbol(fact.symbol, kFactSymbolSize, SystemColor::secondaryLabelColor));
+        line->addWidget(
+            new Label(fact.text, textStyle::subheadline(), SystemColor::secondaryLabelColor));
         line->addStretch();
         lines->addLayout(line);
     }

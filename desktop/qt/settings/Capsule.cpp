@@ -25,7 +25,7 @@ void Capsule::paintEvent(QPaintEvent* event) {
         painter.setBrush(fill);
         painter.drawRoundedRect(rect(), height() / 2.0, height() / 2.0);
     }
-    RoleLabel::paintEvent(event);
+    Label::paintEvent(event);
 }
 
 } // namespace quillon::desktop

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "desktop/qt/settings/RoleLabel.h"
+#include "desktop/qt/widgets/Label.h"
 
 namespace quillon::desktop {
 
 /// A text on a capsule, or the text alone.
-class Capsule : public RoleLabel {
+class Capsule : public Label {
 public:
-    using RoleLabel::RoleLabel;
+    using Label::Label;
 
     void setFilled(bool filled);
 

@@ -1,20 +1,18 @@
 #include "desktop/qt/settings/FormRows.h"
 
-#include "desktop/qt/Appearance.h"
 #include "desktop/qt/QtConversions.h"
-#include "desktop/qt/QtImages.h"
 #include "desktop/qt/TextStyles.h"
 #include "desktop/qt/settings/ShortcutRowWidget.h"
 #include "desktop/qt/settings/SwatchWidget.h"
 #include "desktop/qt/settings/SwitchWidget.h"
 #include "desktop/qt/settings/Unscrolled.h"
+#include "desktop/qt/widgets/Label.h"
+#include "desktop/qt/widgets/Picture.h"
 #include "desktop/qt/widgets/Slider.h"
 #include "desktop/qt/widgets/Swatch.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
-#include <QLabel>
-#include <QPainter>
 #include <QSignalBlocker>
 
 #include <initializer_list>
@@ -26,16 +24,11 @@ namespace {
 
 constexpr int kRowHeight = 37;
 constexpr int kSpacing = 8;
+/// What a glyph leaves free in its square.
+constexpr qreal kGlyphMargin = 2;
 
 QString text(const std::string& string) {
     return QString::fromStdString(string);
-}
-
-QLabel* makeLabel(const std::string& string, const QFont& font) {
-    auto* label = new QLabel(text(string));
-    label->setTextFormat(Qt::PlainText);
-    label->setFont(font);
-    return label;
 }
 
 /// A label at the left, widgets at the right.
@@ -45,33 +38,13 @@ QWidget* makeRow(const std::string& label, std::initializer_list<QWidget*> contr
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(kSpacing);
-    layout->addWidget(makeLabel(label, textStyle::body()));
+    layout->addWidget(new Label(label, textStyle::body()));
     layout->addStretch();
     for (QWidget* control : controls) {
         layout->addWidget(control);
     }
     return row;
 }
-
-/// The symbol beside a slider's end.
-class EndSymbol : public QWidget {
-public:
-    EndSymbol(const std::string& symbol, qreal size)
-        : m_symbol(text(symbol)) {
-        setFixedSize(qRound(size) + 2, qRound(size) + 2);
-    }
-
-protected:
-    void paintEvent(QPaintEvent* /*event*/) override {
-        QPainter painter(this);
-        painter.drawPixmap(0, 0,
-                           QtImages::symbolPixmap(m_symbol, size(), devicePixelRatio(),
-                                                  toQColor(SystemColor::labelColor, palette())));
-    }
-
-private:
-    QString m_symbol;
-};
 
 /// Makes a row of each kind.
 struct RowMaker {
@@ -111,7 +84,7 @@ struct RowMaker {
         slider->setAccessibleName(text(row.label));
         slider->setFixedWidth(qRound(row.sliderWidth));
         slider->setValue(row.stop());
-        auto* value = makeLabel(row.text(), textStyle::monospacedCaption());
+        auto* value = new Label(row.text(), textStyle::monospacedCaption());
         value->setFixedWidth(qRound(row.valueWidth));
         value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         QObject::connect(slider, &QSlider::valueChanged, slider,
@@ -126,8 +99,8 @@ struct RowMaker {
         if (!row.ends) {
             return {makeRow(row.label, {slider, value}), refresh};
         }
-        auto* minimum = new EndSymbol(row.ends->symbol, textStyle::captionSize);
-        auto* maximum = new EndSymbol(row.ends->symbol, textStyle::title2Size);
+        auto* minimum = Picture::ofSymbol(row.ends->symbol, textStyle::captionSize + kGlyphMargin);
+        auto* maximum = Picture::ofSymbol(row.ends->symbol, textStyle::title2Size + kGlyphMargin);
         return {makeRow(row.label, {minimum, slider, maximum, value}), refresh};
     }
 

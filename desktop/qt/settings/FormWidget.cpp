@@ -3,9 +3,9 @@
 #include "desktop/qt/TextStyles.h"
 #include "desktop/qt/settings/FormRows.h"
 #include "desktop/qt/settings/GroupBox.h"
+#include "desktop/qt/widgets/Label.h"
 
 #include <QGridLayout>
-#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -67,9 +67,7 @@ void FormWidget::addSection(QVBoxLayout& column, const FormSection& section,
     if (column.count() > 0) {
         column.addSpacing(kSectionSpacing - kTitleSpacing);
     }
-    auto* title = new QLabel(QString::fromStdString(section.title));
-    title->setTextFormat(Qt::PlainText);
-    title->setFont(textStyle::headline());
+    auto* title = new Label(section.title, textStyle::headline());
     title->setIndent(kTitleIndent);
     column.addWidget(title);
 

@@ -14,7 +14,7 @@ namespace quillon::desktop {
 ShortcutRowWidget::ShortcutRowWidget(ShortcutRow row, const KeyReader& readKey, QWidget* parent)
     : QWidget(parent)
     , m_row(std::move(row))
-    , m_binding(new Capsule(SystemColor::labelColor))
+    , m_binding(new Capsule({}, textStyle::body()))
     , m_recorder(new RecorderWidget(m_row.state().recorder, readKey))
     , m_clear(new BorderlessButton(QString::fromUtf8(ShortcutRow::clearTitle))) {
     const auto label = QString::fromStdString(m_row.label);
@@ -50,7 +50,7 @@ void ShortcutRowWidget::showBinding(const ShortcutRowState& state) {
     m_binding->setFont(state.binding ? textStyle::roundedBoldCaption() : textStyle::body());
     m_binding->setText(state.binding ? QString::fromStdString(*state.binding)
                                      : QString::fromUtf8(ShortcutRow::notSetText));
-    m_binding->setRole(state.binding ? SystemColor::labelColor : SystemColor::secondaryLabelColor);
+    m_binding->setColor(state.binding ? SystemColor::labelColor : SystemColor::secondaryLabelColor);
 }
 
 } // namespace quillon::desktop

@@ -2,7 +2,6 @@
 
 #include "desktop/qt/Appearance.h"
 #include "desktop/qt/QtConversions.h"
-#include "desktop/qt/QtImages.h"
 #include "desktop/qt/widgets/FocusRing.h"
 
 #include <QFontMetrics>
@@ -24,7 +23,7 @@ QFont textFont() {
 
 TabButtonWidget::TabButtonWidget(const TabButton& button, QWidget* parent)
     : QAbstractButton(parent)
-    , m_symbol(QString::fromStdString(button.symbol))
+    , m_symbol(button.symbol)
     , m_label(QString::fromStdString(button.label)) {
     setCheckable(true);
     setAutoExclusive(true);
@@ -50,9 +49,8 @@ void TabButtonWidget::paintEvent(QPaintEvent* /*event*/) {
                          toQColor(color.opacity(TabButton::selectedGroundOpacity), palette()));
     }
     const int top = qRound(TabButton::verticalPadding);
-    painter.drawPixmap(
-        (width() - kSymbolSize) / 2, top,
-        QtImages::symbolPixmap(m_symbol, QSize(kSymbolSize, kSymbolSize), devicePixelRatio(), ink));
+    painter.drawPixmap((width() - kSymbolSize) / 2, top,
+                       symbolPixmap(m_symbol, kSymbolSize, devicePixelRatioF(), ink));
     painter.setFont(textFont());
     painter.setPen(ink);
     const int textTop = top + kSymbolSize + qRound(TabButton::spacing);

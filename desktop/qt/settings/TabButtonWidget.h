@@ -4,6 +4,8 @@
 
 #include <QAbstractButton>
 
+#include <string>
+
 namespace quillon::desktop {
 
 /// The button of a tab. The arrow keys go from one to the next.
@@ -17,7 +19,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QString m_symbol;
+    std::string m_symbol;
     QString m_label;
 };
 

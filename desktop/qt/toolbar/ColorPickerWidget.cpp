@@ -2,10 +2,10 @@
 
 #include "desktop/qt/QtConversions.h"
 #include "desktop/qt/TextStyles.h"
-#include "desktop/qt/toolbar/CaptionLabel.h"
 #include "desktop/qt/toolbar/HueSaturationWidget.h"
 #include "desktop/qt/toolbar/QuickColorsWidget.h"
 #include "desktop/qt/widgets/Divider.h"
+#include "desktop/qt/widgets/Label.h"
 #include "desktop/qt/widgets/Swatch.h"
 
 #include <QVBoxLayout>
@@ -48,9 +48,9 @@ void ColorPickerWidget::addChannel(std::function<Channel()> channel, QVBoxLayout
     auto* group = new QVBoxLayout;
     group->setSpacing(qRound(View::groupSpacing));
     auto* row = new QHBoxLayout;
-    row->addWidget(new CaptionLabel(QString::fromStdString(first.title)));
+    row->addWidget(Label::caption(first.title));
     row->addStretch();
-    auto* percentage = new CaptionLabel({});
+    auto* percentage = Label::caption({});
     row->addWidget(percentage);
     group->addLayout(row);
     auto* slider = new BoundSlider({0, 1, 0}, first.value, *this);
@@ -65,7 +65,7 @@ void ColorPickerWidget::addQuickColors(QVBoxLayout& column) {
     constexpr int overhang = QuickColorsWidget::overhang;
     group->setSpacing(qRound(View::quickColorsSpacing) - overhang);
     group->setContentsMargins(0, 0, 0, -overhang);
-    group->addWidget(new CaptionLabel(View::quickColorsTitle));
+    group->addWidget(Label::caption(View::quickColorsTitle));
     m_quickColors = new QuickColorsWidget(*this);
     m_quickColors->setFixedWidth(width() - 2 * qRound(View::padding) + overhang);
     group->addWidget(m_quickColors);
@@ -74,15 +74,14 @@ void ColorPickerWidget::addQuickColors(QVBoxLayout& column) {
 
 void ColorPickerWidget::addCurrentColor(QVBoxLayout& column) {
     auto* row = new QHBoxLayout;
-    row->addWidget(new CaptionLabel(View::currentTitle));
+    row->addWidget(Label::caption(View::currentTitle));
     row->addStretch();
     m_current = new Swatch({{View::currentSwatchSize.width, View::currentSwatchSize.height},
                             View::currentSwatchCornerRadius,
                             toQColor(View::currentSwatchBorder),
                             View::currentSwatchBorderWidth});
     row->addWidget(m_current);
-    m_hex = new CaptionLabel({});
-    m_hex->setFont(textStyle::monospacedCaption());
+    m_hex = new Label({}, textStyle::monospacedCaption(), SystemColor::secondaryLabelColor);
     row->addWidget(m_hex);
     column.addLayout(row);
 }

@@ -1,12 +1,12 @@
 #include "desktop/qt/toolbar/PaletteMenuWidget.h"
 
-#include "desktop/qt/Appearance.h"
 #include "desktop/qt/QtImages.h"
 #include "desktop/qt/TextStyles.h"
 #include "desktop/qt/toolbar/BoundSlider.h"
-#include "desktop/qt/toolbar/CaptionLabel.h"
 #include "desktop/qt/toolbar/PresetButton.h"
 #include "desktop/qt/toolbar/SwatchButton.h"
+#include "desktop/qt/widgets/Label.h"
+#include "desktop/qt/widgets/Picture.h"
 
 #include <QGridLayout>
 #include <QVBoxLayout>
@@ -66,7 +66,7 @@ void PaletteMenuWidget::build(const ColorMenu& menu) {
         const int padding = qRound(SwatchSection::verticalPadding);
         column->setContentsMargins(kSectionMargin, padding, kSectionMargin, padding);
         column->setSpacing(padding);
-        column->addWidget(new CaptionLabel(QString::fromStdString(section.title)));
+        column->addWidget(Label::caption(section.title));
         auto* grid = new QGridLayout;
         grid->setVerticalSpacing(qRound(SwatchSection::rowSpacing));
         grid->setHorizontalSpacing(0);
@@ -107,7 +107,7 @@ void PaletteMenuWidget::build(const LineWidthMenu& menu) {
     const int padding = qRound(LineWidthMenu::padding);
     column->setContentsMargins(padding, padding, padding, padding);
     column->setSpacing(qRound(LineWidthMenu::spacing));
-    m_heading = new CaptionLabel(QString::fromStdString(menu.heading));
+    m_heading = Label::caption(menu.heading);
     column->addWidget(m_heading, 0, Qt::AlignLeft);
     m_slider = new BoundSlider({menu.slider.minimum, menu.slider.maximum, menu.slider.step},
                                menu.slider.value, *widget);
@@ -115,15 +115,9 @@ void PaletteMenuWidget::build(const LineWidthMenu& menu) {
     m_slider->setFixedWidth(qRound(menu.slider.width));
 
     auto* sliderRow = new QHBoxLayout;
-    const auto addSymbol = [&](const std::string& name, qreal side) {
-        auto* symbol = new QLabel;
-        symbol->setPixmap(symbolPixmap(name, side, devicePixelRatioF(),
-                                       toQColor(SystemColor::labelColor, palette())));
-        sliderRow->addWidget(symbol);
-    };
-    addSymbol(menu.slider.minimumIcon, textStyle::captionSize);
+    sliderRow->addWidget(Picture::ofSymbol(menu.slider.minimumIcon, textStyle::captionSize));
     sliderRow->addWidget(m_slider);
-    addSymbol(menu.slider.maximumIcon, textStyle::title2Size);
+    sliderRow->addWidget(Picture::ofSymbol(menu.slider.maximumIcon, textStyle::title2Size));
     column->addLayout(sliderRow);
 
     m_focus.addRow({m_slider});
