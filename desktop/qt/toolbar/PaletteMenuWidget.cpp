@@ -116,7 +116,9 @@ void PaletteMenuWidget::build(const LineWidthMenu& menu) {
 
     auto* sliderRow = new QHBoxLayout;
     sliderRow->addWidget(Picture::ofSymbol(menu.slider.minimumIcon, textStyle::captionSize));
+    sliderRow->addStretch();
     sliderRow->addWidget(m_slider);
+    sliderRow->addStretch();
     sliderRow->addWidget(Picture::ofSymbol(menu.slider.maximumIcon, textStyle::title2Size));
     column->addLayout(sliderRow);
 
