@@ -2,16 +2,17 @@
 
 #include "desktop/qt/QtConversions.h"
 #include "desktop/qt/TextStyles.h"
+#include "desktop/qt/settings/PickerWidget.h"
 #include "desktop/qt/settings/ShortcutRowWidget.h"
 #include "desktop/qt/settings/SwatchWidget.h"
 #include "desktop/qt/settings/SwitchWidget.h"
 #include "desktop/qt/settings/Unscrolled.h"
+#include "desktop/qt/widgets/FocusRing.h"
 #include "desktop/qt/widgets/Label.h"
 #include "desktop/qt/widgets/Picture.h"
 #include "desktop/qt/widgets/Slider.h"
 #include "desktop/qt/widgets/Swatch.h"
 
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QSignalBlocker>
 
@@ -31,12 +32,16 @@ QString text(const std::string& string) {
     return QString::fromStdString(string);
 }
 
+/// What the last widget of a row leaves free at its right edge.
+enum class RowEnd { roomForRing, nothing };
+
 /// A label at the left, widgets at the right.
-QWidget* makeRow(const std::string& label, std::initializer_list<QWidget*> controls) {
+QWidget* makeRow(const std::string& label, std::initializer_list<QWidget*> controls,
+                 RowEnd end = RowEnd::roomForRing) {
     auto* row = new QWidget;
     row->setMinimumHeight(kRowHeight);
     auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(0, 0, end == RowEnd::nothing ? FocusRing::room : 0, 0);
     layout->setSpacing(kSpacing);
     layout->addWidget(new Label(label, textStyle::body()));
     layout->addStretch();
@@ -63,9 +68,8 @@ struct RowMaker {
     }
 
     FormRowWidgets operator()(const PickerRow& row) const {
-        auto* picker = new Unscrolled<QComboBox>;
+        auto* picker = new Unscrolled<PickerWidget>;
         picker->setAccessibleName(text(row.title));
-        picker->setFont(textStyle::body());
         for (const auto& entry : row.entries) {
             picker->addItem(text(entry));
         }
@@ -97,11 +101,11 @@ struct RowMaker {
             slider->setAccessibleDescription(value->text());
         };
         if (!row.ends) {
-            return {makeRow(row.label, {slider, value}), refresh};
+            return {makeRow(row.label, {slider, value}, RowEnd::nothing), refresh};
         }
         auto* minimum = Picture::ofSymbol(row.ends->symbol, textStyle::captionSize + kGlyphMargin);
         auto* maximum = Picture::ofSymbol(row.ends->symbol, textStyle::title2Size + kGlyphMargin);
-        return {makeRow(row.label, {minimum, slider, maximum, value}), refresh};
+        return {makeRow(row.label, {minimum, slider, maximum, value}, RowEnd::nothing), refresh};
     }
 
     FormRowWidgets operator()(const SwatchRow& row) const {
@@ -120,7 +124,7 @@ struct RowMaker {
             circle->setColor(toQColor(color.get()));
         };
         refresh();
-        return {makeRow(row.title, {circle}), refresh};
+        return {makeRow(row.title, {circle}, RowEnd::nothing), refresh};
     }
 
     FormRowWidgets operator()(const ShortcutRow& row) const {
