@@ -1,6 +1,8 @@
 #include "desktop/qt/settings/GroupBox.h"
 
 #include "desktop/qt/Appearance.h"
+#include "desktop/qt/widgets/Divider.h"
+#include "desktop/qt/widgets/FocusRing.h"
 
 #include <QPainter>
 #include <QVBoxLayout>
@@ -17,7 +19,8 @@ constexpr int kRowInset = 12;
 GroupBox::GroupBox(QWidget* parent)
     : QWidget(parent)
     , m_rows(new QVBoxLayout(this)) {
-    m_rows->setContentsMargins(kRowInset, 0, kRowInset, 0);
+    // A control keeps room for its ring, and stands in line with the text for all that.
+    m_rows->setContentsMargins(kRowInset, 0, kRowInset - FocusRing::room, 0);
     m_rows->setSpacing(0);
 }
 
@@ -34,7 +37,7 @@ void GroupBox::paintEvent(QPaintEvent* /*event*/) {
                             kCornerRadius);
     for (int index = 1; index < m_rows->count(); ++index) {
         const int y = m_rows->itemAt(index)->geometry().top();
-        painter.fillRect(kRowInset, y, width() - 2 * kRowInset, 1, separator(palette()));
+        Divider::paint(painter, QRectF(kRowInset, y, width() - 2 * kRowInset, 1), palette());
     }
 }
 

@@ -41,7 +41,7 @@ void TabStripWidget::follow(const TabStrip& strip) {
 void TabStripWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.fillRect(rect(), toQColor(SystemColor::windowBackgroundColor, palette()));
-    painter.fillRect(0, height() - 1, width(), 1, separator(palette()));
+    Divider::paint(painter, QRectF(0, height() - 1, width(), 1), palette());
 }
 
 } // namespace quillon::desktop

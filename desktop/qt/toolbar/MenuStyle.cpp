@@ -2,6 +2,7 @@
 
 #include "desktop/qt/Appearance.h"
 #include "desktop/qt/PopupSurface.h"
+#include "desktop/qt/widgets/Divider.h"
 #include "toolbar/FloatingToolbarView.h"
 
 #include <QPainter>
@@ -25,7 +26,7 @@ constexpr int kCheckmarkSide = 14;
 void drawSeparator(const QStyleOptionMenuItem& option, QPainter& painter) {
     const QRectF line(option.rect.left() + kGap, QRectF(option.rect).center().y() - 0.5,
                       option.rect.width() - 2 * kGap, 1);
-    painter.fillRect(line, separator(option.palette));
+    Divider::paint(painter, line, option.palette);
 }
 
 void drawEntry(const QStyleOptionMenuItem& option, QPainter& painter) {

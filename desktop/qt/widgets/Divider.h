@@ -12,6 +12,10 @@ public:
     /// Between what stands left and what stands right, `height` points high.
     static Divider* upright(qreal height);
 
+    /// The line itself, at the left or the upper edge of `area` and along its longer side, in whole
+    /// device pixels.
+    static void paint(QPainter& painter, const QRectF& area, const QPalette& palette);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
