@@ -3,6 +3,8 @@
 #include "desktop/qt/QtConversions.h"
 
 #include <QFontDatabase>
+#include <QFontMetricsF>
+#include <QtMath>
 
 namespace quillon::desktop::textStyle {
 
@@ -11,6 +13,8 @@ namespace {
 constexpr qreal kBodySize = 13;
 constexpr qreal kSubheadlineSize = 12;
 constexpr qreal kTitleSize = 22;
+/// In percent of a font's own width.
+constexpr int kNarrowest = 75;
 
 QFont weighted(QFont font, QFont::Weight weight) {
     font.setWeight(weight);
@@ -47,6 +51,14 @@ QFont headline() {
 
 QFont title() {
     return weighted(systemFont(kTitleSize), QFont::Bold);
+}
+
+QFont fitting(QFont font, const QString& text, qreal room) {
+    const qreal width = QFontMetricsF(font).horizontalAdvance(text);
+    if (width > room) {
+        font.setStretch(qMax(qFloor(100 * room / width), kNarrowest));
+    }
+    return font;
 }
 
 } // namespace quillon::desktop::textStyle

@@ -13,6 +13,9 @@ QFont subheadline();
 QFont headline();
 QFont title();
 
+/// A wide font drawn narrower, within reason, rather than the text cut off at `room`.
+QFont fitting(QFont font, const QString& text, qreal room);
+
 /// The heights of the caption and of the second title, as glyphs beside such text have them.
 inline constexpr qreal captionSize = 11;
 inline constexpr qreal title2Size = 17;

@@ -2,6 +2,7 @@
 
 #include "desktop/qt/Appearance.h"
 #include "desktop/qt/QtConversions.h"
+#include "desktop/qt/TextStyles.h"
 #include "desktop/qt/widgets/FocusRing.h"
 
 #include <QFontMetrics>
@@ -14,6 +15,7 @@ namespace {
 /// A glyph is a little larger than the font of its size.
 constexpr int kSymbolSize = 20;
 constexpr qreal kFocusRadius = 6;
+constexpr qreal kTextMargin = 5;
 
 QFont textFont() {
     return systemFont(TabButton::textFontSize);
@@ -41,17 +43,17 @@ QSize TabButtonWidget::sizeHint() const {
 void TabButtonWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const SystemColor color =
-        isChecked() ? SystemColor::controlAccentColor : SystemColor::labelColor;
-    const QColor ink = toQColor(color, palette());
+    const QColor ink =
+        isChecked() ? accentInk(palette()) : toQColor(SystemColor::labelColor, palette());
     if (isChecked()) {
+        const double opacity = TabButton::selectedGroundOpacity;
         painter.fillRect(rect(),
-                         toQColor(color.opacity(TabButton::selectedGroundOpacity), palette()));
+                         toQColor(SystemColor::controlAccentColor.opacity(opacity), palette()));
     }
     const int top = qRound(TabButton::verticalPadding);
     painter.drawPixmap((width() - kSymbolSize) / 2, top,
                        symbolPixmap(m_symbol, kSymbolSize, devicePixelRatioF(), ink));
-    painter.setFont(textFont());
+    painter.setFont(textStyle::fitting(textFont(), m_label, width() - 2 * kTextMargin));
     painter.setPen(ink);
     const int textTop = top + kSymbolSize + qRound(TabButton::spacing);
     painter.drawText(QRect(0, textTop, width(), height() - textTop),

@@ -3,6 +3,7 @@
 #include "desktop/qt/Appearance.h"
 #include "desktop/qt/PopupWatch.h"
 #include "desktop/qt/QtConversions.h"
+#include "desktop/qt/TextStyles.h"
 #include "desktop/qt/widgets/FocusRing.h"
 
 #include <QCursor>
@@ -14,7 +15,6 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QTimerEvent>
-#include <QtMath>
 
 #include <utility>
 
@@ -27,8 +27,6 @@ constexpr int kFrameMilliseconds = 16;
 constexpr int kMenuDistance = 6;
 /// Between the caption and the sides, where the focus shows.
 constexpr qreal kCaptionMargin = 3;
-/// In percent of a font's own width.
-constexpr int kNarrowest = 75;
 
 } // namespace
 
@@ -256,13 +254,7 @@ void ToolbarButtonWidget::paintFace(QPainter& painter) const {
 QFont ToolbarButtonWidget::captionFont(const QString& caption) const {
     QFont font = systemFont(ToolbarButton::captionFontSize);
     font.setWeight(QFont::Medium);
-    // A wide font is drawn narrower rather than cut off.
-    const qreal width = QFontMetricsF(font).horizontalAdvance(caption);
-    const qreal room = QRectF(rect()).width() - 2 * kCaptionMargin;
-    if (width > room) {
-        font.setStretch(qMax(qFloor(100 * room / width), kNarrowest));
-    }
-    return font;
+    return textStyle::fitting(font, caption, QRectF(rect()).width() - 2 * kCaptionMargin);
 }
 
 } // namespace quillon::desktop
