@@ -9,8 +9,10 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QScreen>
+#include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <malloc.h>
 
 #include <algorithm>
 
@@ -35,6 +37,12 @@ QRect withTitleInReach(QRect frame) {
         frame.moveTop(std::max(frame.top(), screen->availableGeometry().top()));
     }
     return frame;
+}
+
+/// What a window of controls held lies scattered over the heap, the picture of it among the rest.
+/// The program runs on without a window for hours, and the allocator would keep it all.
+void giveMemoryBack() {
+    malloc_trim(0);
 }
 
 Qt::WindowFlags flagsOf(const Window& window) {
@@ -62,6 +70,7 @@ public:
     ~Widget() override {
         // The controls refer to the content.
         qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
+        QTimer::singleShot(0, giveMemoryBack);
     }
 
     bool isClosing() const { return m_isClosing; }
