@@ -65,16 +65,8 @@ protected:
                                    [](Rgb seen) { return !isAccent(seen); });
     }
 
-    /// The windows of that title among those of the window manager.
     std::vector<xcb_window_t> titled(const std::string& title) {
-        auto& connection = desktop.connection();
-        std::vector<xcb_window_t> found;
-        for (const auto client : connection.property(connection.root(), "_NET_CLIENT_LIST")) {
-            if (connection.text(client, "_NET_WM_NAME") == title) {
-                found.push_back(client);
-            }
-        }
-        return found;
+        return desktop.connection().windowsTitled(title);
     }
 
     /// Whether a shortcut reaches the program: a press of it would be refused to others.
@@ -103,16 +95,10 @@ protected:
 
 private:
     void locate() {
-        auto* connection = desktop.connection().get();
-        const XOwned<xcb_get_geometry_reply_t> geometry(
-            xcb_get_geometry_reply(connection, xcb_get_geometry(connection, window), nullptr));
-        const XOwned<xcb_translate_coordinates_reply_t> corner(xcb_translate_coordinates_reply(
-            connection,
-            xcb_translate_coordinates(connection, window, desktop.connection().root(), 0, 0),
-            nullptr));
-        width = geometry->width;
-        height = geometry->height;
-        m_corner = {corner->dst_x, corner->dst_y + height - 500};
+        const xcb_rectangle_t place = desktop.connection().place(window);
+        width = place.width;
+        height = place.height;
+        m_corner = {place.x, place.y + height - 500};
     }
 
     Pixel m_corner;

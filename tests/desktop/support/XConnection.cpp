@@ -63,6 +63,23 @@ std::string XConnection::text(xcb_window_t window, const std::string& name) cons
     return {bytes, reply->value_len};
 }
 
+std::vector<xcb_window_t> XConnection::windowsTitled(const std::string& title) const {
+    std::vector<xcb_window_t> windows = property(root(), "_NET_CLIENT_LIST");
+    std::erase_if(windows, [&](auto window) { return text(window, "_NET_WM_NAME") != title; });
+    return windows;
+}
+
+xcb_rectangle_t XConnection::place(xcb_window_t window) const {
+    const XOwned<xcb_get_geometry_reply_t> geometry(
+        xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, window), nullptr));
+    const XOwned<xcb_translate_coordinates_reply_t> corner(xcb_translate_coordinates_reply(
+        m_connection, xcb_translate_coordinates(m_connection, window, root(), 0, 0), nullptr));
+    if (!geometry || !corner) {
+        throw std::runtime_error("the window has gone");
+    }
+    return {corner->dst_x, corner->dst_y, geometry->width, geometry->height};
+}
+
 void XConnection::askWindowManager(const std::string& message, xcb_window_t window,
                                    const std::vector<std::uint32_t>& values) const {
     xcb_client_message_event_t event{};

@@ -37,6 +37,10 @@ public:
     std::vector<std::uint32_t> property(xcb_window_t window, const std::string& name) const;
     /// A property that is a text, at most 256 bytes of it; empty when there is none.
     std::string text(xcb_window_t window, const std::string& name) const;
+    /// The windows of that title among those of the window manager.
+    std::vector<xcb_window_t> windowsTitled(const std::string& title) const;
+    /// Where a window stands on the root window, without its frame.
+    xcb_rectangle_t place(xcb_window_t window) const;
     /// Sends a message about a window to the window manager, as a pager or task bar does.
     void askWindowManager(const std::string& message, xcb_window_t window,
                           const std::vector<std::uint32_t>& values) const;
