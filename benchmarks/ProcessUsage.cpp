@@ -97,7 +97,8 @@ bool isAsleep(pid_t process) {
 
 ProcessMemory ProcessMemory::of(pid_t process) {
     const std::string pages = contentsOf(folderOf(process) + "/smaps_rollup");
-    return {sumOf("Rss", pages), sumOf("Private_Clean", pages) + sumOf("Private_Dirty", pages)};
+    return {sumOf("Rss", pages), sumOf("Private_Clean", pages) + sumOf("Private_Dirty", pages),
+            sumOf("Anonymous", pages)};
 }
 
 } // namespace quillon::bench

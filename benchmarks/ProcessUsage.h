@@ -33,6 +33,8 @@ struct ProcessMemory {
     long resident = 0;
     /// Those of them that nobody shares.
     long unique = 0;
+    /// Those that came from no file: they do not change with what other programs map.
+    long anonymous = 0;
 
     static ProcessMemory of(pid_t process);
 };
