@@ -121,6 +121,13 @@ void ContentWidget::setComposited(bool composited) {
     tellOutline();
 }
 
+void ContentWidget::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (onAboutToShow) {
+        onAboutToShow();
+    }
+}
+
 void ContentWidget::paintEvent(QPaintEvent* event) {
     if (!m_content) {
         return;

@@ -49,6 +49,8 @@ public:
     bool isEditingText() const { return m_textField != nullptr; }
     /// Called after each change of `isEditingText`.
     std::function<void()> onEditingChanged;
+    /// The toolkit has put the window on top of all others and is about to show it.
+    std::function<void()> onAboutToShow;
 
     /// Called with the place of the controls' body, in device pixels, after each change; empty when
     /// there are none.
@@ -57,6 +59,7 @@ public:
 protected:
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;

@@ -3,6 +3,7 @@
 #include "desktop/qt/QtConversions.h"
 #include "desktop/qt/TitledWindows.h"
 #include "desktop/x11/BlurBehind.h"
+#include "desktop/x11/WindowOrder.h"
 #include "desktop/x11/WindowShape.h"
 #include "desktop/x11/XRectangles.h"
 
@@ -34,7 +35,9 @@ QtWindow::QtWindow(Window& window, const Surroundings& surroundings)
     m_widget.setWindowFlags(Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint |
                             Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint | Qt::Tool);
     QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, &m_widget,
-                     [this] { stayBelowTitledWindows(); });
+                     [this] { stayBelowTitledWindow(); });
+    // Already before it is seen: a press at once after would meet it.
+    m_widget.onAboutToShow = [this] { stayBelowTitledWindow(); };
     m_widget.onEditingChanged = [this] { giveBackKeyboardIfUnused(); };
     m_widget.onControlsPlaced = [this](const QRect& place) { blurBehind(place); };
     m_widget.onOutlined = [this](const QRegion& outline) { takeOutline(outline); };
@@ -59,7 +62,7 @@ void QtWindow::display() {
 }
 
 void QtWindow::setIgnoresMouseEvents(bool ignores) {
-    stayBelowTitledWindows();
+    stayBelowTitledWindow();
     grabPointerIfNeeded();
     setInputRegion(m_surroundings.connection, nativeWindow(),
                    ignores ? InputRegion::empty : InputRegion::window);
@@ -75,14 +78,18 @@ void QtWindow::orderFrontRegardless() {
     if (m_window.isOpaque()) {
         m_widget.setBackgroundColor(toQColor(m_window.backgroundColor()));
     }
-    m_placement.bringToFront();
-    stayBelowTitledWindows();
+    m_placement.bringToFront(ceiling());
     grabPointerIfNeeded();
 }
 
-void QtWindow::stayBelowTitledWindows() {
-    if (!m_window.ignoresMouseEvents()) {
-        keepBelowTitledWindows(m_surroundings.connection, nativeWindow());
+std::optional<xcb_window_t> QtWindow::ceiling() const {
+    return m_window.ignoresMouseEvents() ? std::nullopt
+                                         : titledWindowOnScreen(m_surroundings.connection);
+}
+
+void QtWindow::stayBelowTitledWindow() {
+    if (const auto titled = ceiling()) {
+        stackBelow(m_surroundings.connection, nativeWindow(), *titled);
     }
 }
 

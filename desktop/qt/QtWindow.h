@@ -49,9 +49,10 @@ public:
     bool hides(const xcb_rectangle_t& rect) const;
 
 private:
-    /// A window that takes the pointer would bar the way to the titled windows. Called whenever it
-    /// may have come above them.
-    void stayBelowTitledWindows();
+    /// A window that takes the pointer would bar the way to the titled one, and stays below it.
+    std::optional<xcb_window_t> ceiling() const;
+    /// Called whenever it may have come above it.
+    void stayBelowTitledWindow();
     void followCompositor();
     void grabPointerIfNeeded();
     void confirmGrab();

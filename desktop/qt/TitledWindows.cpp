@@ -7,18 +7,15 @@
 
 namespace quillon::desktop {
 
-void keepBelowTitledWindows(xcb_connection_t* connection, xcb_window_t window) {
-    for (const QWindow* other : QGuiApplication::topLevelWindows()) {
+std::optional<xcb_window_t> titledWindowOnScreen(xcb_connection_t* connection) {
+    for (const QWindow* window : QGuiApplication::topLevelWindows()) {
         const bool isShown =
-            other->isVisible() && !other->windowStates().testFlag(Qt::WindowMinimized);
-        if (!isShown || other->type() != Qt::Window) {
-            continue;
-        }
-        const auto titled = static_cast<xcb_window_t>(other->winId());
-        if (const auto frame = outermostWindow(connection, titled)) {
-            stackBelow(connection, window, *frame);
+            window->isVisible() && !window->windowStates().testFlag(Qt::WindowMinimized);
+        if (isShown && window->type() == Qt::Window) {
+            return outermostWindow(connection, static_cast<xcb_window_t>(window->winId()));
         }
     }
+    return std::nullopt;
 }
 
 } // namespace quillon::desktop

@@ -2,10 +2,12 @@
 
 #include <xcb/xcb.h>
 
+#include <optional>
+
 namespace quillon::desktop {
 
-/// Puts a window outside of the window manager's hands below the titled windows of the program that
-/// are on the screen. Nothing happens when there is none.
-void keepBelowTitledWindows(xcb_connection_t* connection, xcb_window_t window);
+/// The titled window of the program that is on the screen, in the frame that the window manager
+/// gave it; nothing when there is none. The program has one at most, whose dialogs stand above it.
+std::optional<xcb_window_t> titledWindowOnScreen(xcb_connection_t* connection);
 
 } // namespace quillon::desktop

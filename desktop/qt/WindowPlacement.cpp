@@ -1,6 +1,7 @@
 #include "desktop/qt/WindowPlacement.h"
 
 #include "desktop/qt/GlobalCoordinates.h"
+#include "desktop/x11/WindowOrder.h"
 
 #include <QGuiApplication>
 #include <QMetaObject>
@@ -38,12 +39,15 @@ void WindowPlacement::setFrame(const CGRect& frame) {
     }
 }
 
-void WindowPlacement::bringToFront() {
+void WindowPlacement::bringToFront(std::optional<xcb_window_t> ceiling) {
     if (!m_widget.isVisible()) {
         resize();
         m_widget.show();
     }
-    place(Stacking::onTop);
+    place(ceiling ? Stacking::kept : Stacking::onTop);
+    if (ceiling) {
+        stackBelow(m_connection, static_cast<xcb_window_t>(m_widget.winId()), *ceiling);
+    }
 }
 
 void WindowPlacement::placeLater() {

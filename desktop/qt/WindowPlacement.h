@@ -7,6 +7,8 @@
 
 #include <xcb/xcb.h>
 
+#include <optional>
+
 namespace quillon::desktop {
 
 /// Where a window stands on the desktop, and above what.
@@ -21,8 +23,9 @@ public:
     /// In global coordinates. A window on the screen follows with the next `bringToFront`, or by
     /// itself in the next turn of the loop.
     void setFrame(const CGRect& frame);
-    /// Shows the window if it is hidden.
-    void bringToFront();
+    /// Shows the window if it is hidden. It then stands on top of all others, or directly below
+    /// `ceiling`.
+    void bringToFront(std::optional<xcb_window_t> ceiling);
     /// Where the window stands in the root window, in device pixels, once it has followed.
     QRect pixels() const;
 

@@ -76,13 +76,6 @@ protected:
         return eventually([this] { return takesPointer(); });
     }
 
-    xcb_window_t windowUnderPointer() {
-        auto* connection = desktop.connection().get();
-        const XOwned<xcb_query_pointer_reply_t> pointer(xcb_query_pointer_reply(
-            connection, xcb_query_pointer(connection, desktop.connection().root()), nullptr));
-        return pointer->child;
-    }
-
     static bool isAccent(Rgb seen) { return seen.blue > seen.red + 60; }
     static bool isSelected(Rgb seen) { return seen.blue > seen.red + 12; }
     static bool isPage(Rgb seen) { return isNear(seen, {234, 234, 234}, 10); }
