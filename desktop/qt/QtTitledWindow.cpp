@@ -9,6 +9,7 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QScreen>
+#include <QShortcut>
 #include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -182,6 +183,9 @@ QWidget* QtTitledWindow::makeHeader(const QWidget& content) {
     auto* menu = new QtMenu(m_application.mainMenu(), m_application);
     menu->setParent(menuBar, menu->windowFlags());
     menuBar->addMenu(menu);
+    auto* menuKey = new QShortcut(Qt::Key_F10, header);
+    QObject::connect(menuKey, &QShortcut::activated, menuBar,
+                     [menuBar, menu] { menuBar->setActiveAction(menu->menuAction()); });
     line->addWidget(menuBar, 1, Qt::AlignVCenter);
 
     auto* toolBar = new QToolBar;

@@ -221,6 +221,15 @@ TEST_F(SettingsOnScreen, its_menu_switches_annotation_on) {
     EXPECT_TRUE(isAnnotating());
 }
 
+TEST_F(SettingsOnScreen, f10_opens_its_menu) {
+    startAndOpen();
+    input.tap("F10");
+    ASSERT_TRUE(screen.waitForPixel(at({60, 12}), [](Rgb seen) { return !isSelected(seen); }));
+    input.tap("Down");
+    input.tap("Return");
+    EXPECT_TRUE(isAnnotating());
+}
+
 TEST_F(SettingsOnScreen, the_end_of_the_program_with_the_window_open_is_a_clean_one) {
     startAndOpen();
     showTab(shortcuts);

@@ -19,7 +19,7 @@ std::uint32_t keysym(std::string_view key) {
         {"Num_Lock", 0xFF7F}, {"Caps_Lock", 0xFFE5}, {"Scroll_Lock", 0xFF14}, {"Return", 0xFF0D},
         {"Escape", 0xFF1B},   {"Tab", 0xFF09},       {"BackSpace", 0xFF08},   {"Down", 0xFF54},
         {"Up", 0xFF52},       {"Left", 0xFF51},      {"Right", 0xFF53},       {"space", 0x20},
-        {"comma", 0x2C},
+        {"comma", 0x2C},      {"F10", 0xFFC7},
     };
     if (const auto name = names.find(key); name != names.end()) {
         return name->second;
