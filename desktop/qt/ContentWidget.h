@@ -34,6 +34,7 @@ public:
 
     /// What lies behind the picture; nothing unless it is set.
     void setBackgroundColor(const QColor& color) { m_backgroundColor = color; }
+    bool hasBackground() const { return m_backgroundColor.isValid(); }
 
     /// Without a compositor the outline of the picture is kept, so that the window can take it and
     /// the rest of the screen stays to be seen.

@@ -77,6 +77,7 @@ void QtWindow::setContentView(const std::shared_ptr<HostingView>& view) {
 void QtWindow::orderFrontRegardless() {
     if (m_window.isOpaque()) {
         m_widget.setBackgroundColor(toQColor(m_window.backgroundColor()));
+        followCompositor();
     }
     m_placement.bringToFront(ceiling());
     grabPointerIfNeeded();
@@ -94,7 +95,8 @@ void QtWindow::stayBelowTitledWindow() {
 }
 
 void QtWindow::followCompositor() {
-    const bool composited = m_surroundings.compositor.isRunning();
+    // A picture with a background fills its window: there is no outline to be kept.
+    const bool composited = m_surroundings.compositor.isRunning() || m_widget.hasBackground();
     if (composited && !m_widget.isComposited()) {
         clearOutline(m_surroundings.connection, nativeWindow());
     }
@@ -165,7 +167,7 @@ void QtWindow::orderOut() {
 }
 
 bool QtWindow::hides(const xcb_rectangle_t& rect) const {
-    return m_window.isOpaque() && m_widget.isVisible() &&
+    return m_widget.hasBackground() && m_widget.isVisible() &&
            contains(toXRectangle(m_placement.pixels()), rect);
 }
 
