@@ -140,7 +140,7 @@ private:
             m_page.settle();
         }
         if (result.missed > 0) {
-            throw std::runtime_error("motions without a picture " + name);
+            throw std::runtime_error("motions without a picture: " + name);
         }
         m_situations.add(name, hasTarget, result.latency);
     }

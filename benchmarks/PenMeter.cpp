@@ -23,6 +23,8 @@ constexpr double kWaveLength = 300;
 constexpr int kReach = 4;
 
 constexpr std::chrono::milliseconds kPatience{5000};
+/// All else that was asked for comes first.
+constexpr std::chrono::seconds kPatienceForUndo{30};
 constexpr std::chrono::microseconds kPauseBetweenLooks{50};
 /// The pace of a mouse that reports 125 times a second.
 constexpr std::chrono::milliseconds kRest{8};
@@ -64,7 +66,7 @@ void PenMeter::measureStroke(PenResult& result) {
 }
 
 void PenMeter::awaitErased() const {
-    if (!test::eventually([this] { return pixelsAround(witness()) == m_blank; }, kPatience)) {
+    if (!test::eventually([this] { return pixelsAround(witness()) == m_blank; }, kPatienceForUndo)) {
         throw std::runtime_error("the stroke does not go");
     }
 }
