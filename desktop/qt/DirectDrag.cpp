@@ -55,12 +55,12 @@ bool DirectDrag::nativeEventFilter(const QByteArray& /*eventType*/, void* messag
     }
     const auto motion =
         pointerMotion(*static_cast<const xcb_generic_event_t*>(message), m_inputExtension);
-    if (motion && motion->isOfDeviceAlone) {
-        return false;
-    }
     m_isOpen = motion && isOfDrag(*motion);
     if (!m_isOpen) {
         return false;
+    }
+    if (motion->isOfDeviceAlone) {
+        return true;
     }
     m_lastPlace = QPointF(motion->x, motion->y) / m_widget.devicePixelRatio();
     m_move(*m_lastPlace);

@@ -23,6 +23,9 @@ namespace quillon::desktop {
 /// 2. anything but a motion of the drag closes it, and goes the toolkit's way;
 /// 3. so does the next motion, and with its delivery the short way is open again;
 /// 4. the release ends the drag.
+///
+/// A motion comes twice, of the pointer and of the device that moves it; the toolkit would drop the
+/// second, and so does this.
 class DirectDrag : public QAbstractNativeEventFilter {
 public:
     /// Takes a place in coordinates of the widget.

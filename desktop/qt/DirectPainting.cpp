@@ -3,7 +3,6 @@
 #include "desktop/qt/QtConversions.h"
 
 #include <QBackingStore>
-#include <QPainter>
 #include <QWidget>
 
 #include <algorithm>
@@ -45,25 +44,40 @@ bool DirectPainting::put(QBackingStore& store, const QRegion& region) {
     if (!picture || !std::all_of(region.begin(), region.end(), isSmall)) {
         return false;
     }
+    follow(*picture);
     const PixelSource source{picture->constBits(),
                              static_cast<std::size_t>(picture->bytesPerLine())};
     const auto window = static_cast<xcb_window_t>(m_widget.internalWinId());
     bool isPut = true;
     for (const QRect& rect : region) {
-        paint(*picture, rect);
+        paint(rect);
         isPut = m_upload.put(window, source, toXRectangle(inPixels(rect))) && isPut;
     }
     m_upload.flush();
     return isPut;
 }
 
-void DirectPainting::paint(QImage& picture, const QRect& rect) const {
-    QPainter painter(&picture);
-    painter.setClipRect(rect);
-    painter.setCompositionMode(QPainter::CompositionMode_Clear);
-    painter.fillRect(rect, Qt::transparent);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    m_paint(painter, rect);
+void DirectPainting::follow(QImage& picture) {
+    if (m_pixels.constBits() == picture.constBits() && m_pixels.size() == picture.size()) {
+        return;
+    }
+    if (m_painter.isActive()) {
+        m_painter.end();
+    }
+    m_pixels = QImage(picture.bits(), picture.width(), picture.height(), picture.bytesPerLine(),
+                      picture.format());
+    m_pixels.setDevicePixelRatio(picture.devicePixelRatio());
+    m_painter.begin(&m_pixels);
+}
+
+void DirectPainting::paint(const QRect& rect) {
+    m_painter.save();
+    m_painter.setClipRect(rect);
+    m_painter.setCompositionMode(QPainter::CompositionMode_Clear);
+    m_painter.fillRect(rect, Qt::transparent);
+    m_painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    m_paint(m_painter, rect);
+    m_painter.restore();
 }
 
 } // namespace quillon::desktop

@@ -2,12 +2,13 @@
 
 #include "desktop/x11/PixelUpload.h"
 
+#include <QImage>
+#include <QPainter>
 #include <QRegion>
 
 #include <functional>
 
 class QBackingStore;
-class QPainter;
 class QWidget;
 
 namespace quillon::desktop {
@@ -30,11 +31,16 @@ public:
     bool put(QBackingStore& store, const QRegion& region);
 
 private:
-    void paint(QImage& picture, const QRect& rect) const;
+    void follow(QImage& picture);
+    void paint(const QRect& rect);
 
     const QWidget& m_widget;
     PixelUpload m_upload;
     Paint m_paint;
+    /// The store's own pixels, and a painter that stays open on them: to open one costs as much as
+    /// to paint a segment.
+    QImage m_pixels;
+    QPainter m_painter;
 };
 
 } // namespace quillon::desktop

@@ -101,11 +101,12 @@ TEST_F(DirectDragTest, no_motion_overtakes_another_button) {
     EXPECT_FALSE(takes(motionTo({21, 31})));
 }
 
-TEST_F(DirectDragTest, a_motion_of_a_device_by_itself_goes_the_toolkits_way_and_changes_nothing) {
+TEST_F(DirectDragTest, a_motion_that_the_device_tells_besides_is_dropped) {
     deliver(QEvent::MouseButtonPress);
     MotionEvent ofDevice = motionTo({20, 30});
     ofDevice.motion.deviceid = kMouse;
-    EXPECT_FALSE(takes(ofDevice));
+    EXPECT_TRUE(takes(ofDevice));
+    EXPECT_TRUE(moves.empty());
     EXPECT_TRUE(takes(motionTo({20, 30})));
     EXPECT_EQ(moves, (std::vector<QPointF>{{20, 30}}));
 }
