@@ -2,6 +2,7 @@
 
 #include "desktop/qt/Appearance.h"
 #include "desktop/qt/TextStyles.h"
+#include "desktop/qt/toolbar/PopupMenu.h"
 #include "desktop/qt/widgets/FocusRing.h"
 
 #include <QPainter>
@@ -39,6 +40,26 @@ QSize PickerWidget::sizeHint() const {
 
 QSize PickerWidget::minimumSizeHint() const {
     return sizeHint();
+}
+
+void PickerWidget::showPopup() {
+    auto* menu = new PopupMenu(*this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setFont(font());
+    menu->setMinimumWidth(width());
+    QAction* chosen = nullptr;
+    for (int index = 0; index < count(); ++index) {
+        QAction* entry = menu->addAction(itemText(index));
+        entry->setCheckable(true);
+        entry->setChecked(index == currentIndex());
+        connect(entry, &QAction::triggered, this, [this, index] { setCurrentIndex(index); });
+        if (entry->isChecked()) {
+            chosen = entry;
+        }
+    }
+    const int over = chosen ? menu->actionGeometry(chosen).center().y() : 0;
+    menu->popup(mapToGlobal(QPoint(0, rect().center().y() - over)));
+    menu->setActiveAction(chosen);
 }
 
 void PickerWidget::paintEvent(QPaintEvent* /*event*/) {

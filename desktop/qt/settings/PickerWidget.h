@@ -11,6 +11,8 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    /// Opens the menu, its chosen entry over this face of it.
+    void showPopup() override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

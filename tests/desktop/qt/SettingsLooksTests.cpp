@@ -2,11 +2,14 @@
 #include "desktop/qt/SettingsLaidOut.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QColorDialog>
+#include <QComboBox>
 #include <QGuiApplication>
 #include <QImage>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSlider>
@@ -67,6 +70,33 @@ TEST_F(SettingsLooks, sliders_and_their_values_are_as_wide_as_their_rows_say) {
     EXPECT_EQ(control<QSlider>("Dimming Intensity")->width(), 150);
     EXPECT_EQ(label("70%")->width(), 50);
     EXPECT_EQ(label("200pt")->width(), 60);
+}
+
+TEST_F(SettingsLooks, a_picker_opens_a_menu_at_its_chosen_entry_and_takes_another) {
+    settings().autoEraseTimer = AutoEraseTimer::fiveSeconds;
+    show(SettingsTab::annotation);
+    auto* picker = control<QComboBox>("Auto-Erase");
+    QTest::mouseClick(picker, Qt::LeftButton);
+    turn();
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_TRUE(menu);
+    ASSERT_EQ(menu->actions().size(), picker->count());
+    for (int index = 0; index < picker->count(); ++index) {
+        EXPECT_EQ(menu->actions().at(index)->text(), picker->itemText(index));
+        EXPECT_EQ(menu->actions().at(index)->isChecked(), index == picker->currentIndex());
+    }
+    ASSERT_TRUE(menu->activeAction());
+    EXPECT_EQ(menu->activeAction()->text(), "5 Seconds");
+    const QPoint chosen = menu->mapToGlobal(menu->actionGeometry(menu->activeAction()).center());
+    EXPECT_NEAR(chosen.y(), picker->mapToGlobal(picker->rect().center()).y(), 1);
+    EXPECT_GE(menu->width(), picker->width());
+
+    QTest::keyClick(menu, Qt::Key_Down);
+    QTest::keyClick(menu, Qt::Key_Return);
+    turn();
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(settings().autoEraseTimer.get(), AutoEraseTimer::tenSeconds);
+    EXPECT_EQ(picker->currentText(), "10 Seconds");
 }
 
 TEST_F(SettingsLooks, a_recorder_is_a_button_of_132_by_28) {
