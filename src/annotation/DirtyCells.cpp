@@ -59,6 +59,12 @@ bool DirtyCells::meets(const CGRect& rect) const {
     });
 }
 
+bool DirtyCells::cover(const CGRect& rect) const {
+    return !anyWord(blockOver(rect), [this](std::size_t word, std::uint64_t bits) {
+        return (m_words[word] & bits) != bits;
+    });
+}
+
 std::vector<CGRect> DirtyCells::rects() const {
     std::vector<Block> blocks;
     // The blocks that end with the row above. A run of the same columns makes one of them higher.

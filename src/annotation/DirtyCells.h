@@ -25,6 +25,8 @@ public:
 
     /// False only when `rect` shares no area with a dirty cell.
     bool meets(const CGRect& rect) const;
+    /// Every cell is dirty with which `rect` shares an area.
+    bool cover(const CGRect& rect) const;
     /// Rectangles over all dirty cells and no others; no two overlap. In points.
     std::vector<CGRect> rects() const;
 

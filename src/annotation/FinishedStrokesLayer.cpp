@@ -1,11 +1,14 @@
 #include "annotation/FinishedStrokesLayer.h"
 
+#include <utility>
+
 namespace quillon {
 
 void FinishedStrokesLayer::layout(CGSize size, CGFloat scale) {
     m_size = size;
     m_scale = scale;
     m_bitmap.reset();
+    m_aside = {};
 }
 
 Damage FinishedStrokesLayer::update(const StrokeList& strokes, FadingStrokes fading) {
@@ -15,15 +18,20 @@ Damage FinishedStrokesLayer::update(const StrokeList& strokes, FadingStrokes fad
         return {};
     }
     const DirtyCells dirty = changes(difference, fading);
-    const bool drawsOnTop =
-        m_bitmap && m_fading.empty() && fading.empty() && isOneOnTop(difference, strokes, dirty);
+    const bool fades = !m_fading.empty() || !fading.empty();
+    const bool drawsOnTop = m_bitmap && !fades && isOneOnTop(difference, strokes, dirty);
+    if (strokes.empty() && !fades) {
+        putAside();
+    }
     m_strokes = strokes;
     m_fading = std::move(fading);
 
     if (m_strokes.empty() && m_fading.empty()) {
         m_bitmap.reset();
     } else if (!m_bitmap) {
-        paintAll();
+        if (!takeBack()) {
+            paintAll();
+        }
     } else if (drawsOnTop) {
         drawOnTop(*difference.added.front());
     } else {
@@ -40,9 +48,15 @@ DirtyCells FinishedStrokesLayer::changes(const StrokeList::Difference& differenc
                                          const FadingStrokes& fading) const {
     DirtyCells dirty(m_size, m_scale);
     const auto add = [&](const CGRect& ink) { dirty.add(ink); };
+    const auto addInkOf = [&](const FinishedStroke& stroke) {
+        // When many strokes change, most of them change what others have changed already.
+        if (!dirty.cover(stroke.inkBounds(m_graphics))) {
+            stroke.visitInk(m_graphics, add);
+        }
+    };
     for (const auto* strokes : {&difference.removed, &difference.added}) {
         for (const auto& stroke : *strokes) {
-            stroke->visitInk(m_graphics, add);
+            addInkOf(*stroke);
         }
     }
     for (const auto& [before, after] : difference.replaced) {
@@ -50,10 +64,26 @@ DirtyCells FinishedStrokesLayer::changes(const StrokeList::Difference& differenc
     }
     for (const auto* faded : {&m_fading, &fading}) {
         for (const auto& [stroke, opacity] : *faded) {
-            stroke->visitInk(m_graphics, add);
+            addInkOf(*stroke);
         }
     }
     return dirty;
+}
+
+void FinishedStrokesLayer::putAside() {
+    // Of two pictures the one of more strokes is worth more.
+    if (m_bitmap && m_strokes.size() >= m_aside.strokes.size()) {
+        m_aside = {m_strokes, std::move(m_bitmap)};
+    }
+}
+
+bool FinishedStrokesLayer::takeBack() {
+    const bool isSame = m_aside.bitmap && m_fading.empty() &&
+                        StrokeList::difference(m_aside.strokes, m_strokes).isEmpty();
+    if (isSame) {
+        m_bitmap = std::exchange(m_aside, {}).bitmap;
+    }
+    return isSame;
 }
 
 void FinishedStrokesLayer::draw(GraphicsContext& context, const CGRect& rect) const {

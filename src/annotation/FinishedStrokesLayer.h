@@ -14,7 +14,8 @@ namespace quillon {
 ///
 /// The bitmap always equals the plain walk over the whole list, pixel for pixel: a change repaints
 /// the cells that it touched, by one walk over what meets them, or draws on top when nothing lies
-/// above the new stroke. It exists only while there is something to show.
+/// above the new stroke. It exists only while there is something to show; what was cleared is kept
+/// aside, so that an undo brings it back without a walk.
 class FinishedStrokesLayer {
 public:
     explicit FinishedStrokesLayer(Graphics& graphics)
@@ -37,6 +38,10 @@ private:
                     const DirtyCells& dirty) const;
     void drawOnTop(const FinishedStroke& added);
     void repaint(const DirtyCells& dirty);
+    /// Keeps the present picture, of no fading stroke.
+    void putAside();
+    /// Shows the picture that was put aside, if it is that of the present strokes.
+    bool takeBack();
     /// Into a fresh bitmap.
     void paintAll();
 
@@ -46,6 +51,10 @@ private:
     StrokeList m_strokes;
     FadingStrokes m_fading;
     std::unique_ptr<Bitmap> m_bitmap;
+    struct {
+        StrokeList strokes;
+        std::unique_ptr<Bitmap> bitmap;
+    } m_aside;
 };
 
 } // namespace quillon

@@ -47,6 +47,16 @@ TEST(DirtyCells, below_each_other_are_one_rectangle) {
     EXPECT_EQ(cells.rects(), (std::vector<CGRect>{{16, 0, 32, 104}}));
 }
 
+TEST(DirtyCells, cover_what_lies_in_them_alone) {
+    DirtyCells cells(kSize, 1);
+    cells.add({16, 16, 100, 100});
+    cells.add({16, 116, 100, 100});
+    EXPECT_TRUE(cells.cover({20, 20, 50, 190}));
+    EXPECT_TRUE(cells.cover({16, 16, 104, 200}));
+    EXPECT_FALSE(cells.cover({15, 20, 50, 50}));
+    EXPECT_FALSE(cells.cover({100, 20, 30, 10}));
+}
+
 TEST(DirtyCells, meet_a_rectangle_exactly_when_one_of_their_rectangles_does) {
     std::mt19937 random(11);
     const auto pick = [&](unsigned count) { return static_cast<CGFloat>(random() % count); };

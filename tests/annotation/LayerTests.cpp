@@ -285,6 +285,54 @@ TEST(ChangedInk, is_all_of_both_strokes_when_more_than_points_differ) {
     }
 }
 
+TEST_F(FinishedLayer, the_undo_of_a_clear_draws_nothing_anew) {
+    const StrokeList strokes{freehand({a, b}), freehand({b, {90, 90}})};
+    drawnBy(strokes);
+    const auto* bitmap = graphics.lastBitmap;
+    drawnBy({});
+    EXPECT_TRUE(drawnBy(strokes).empty());
+    EXPECT_EQ(graphics.lastBitmap, bitmap);
+    drawnBy({});
+    EXPECT_TRUE(layer.update(strokes, {}).intersects({20, 20, 1, 1}));
+    RecordingContext screen;
+    layer.draw(screen, {0, 0, 9, 9});
+    EXPECT_EQ(kinds(screen.drawings), (std::vector<Kind>{Kind::bitmap}));
+}
+
+TEST_F(FinishedLayer, a_stroke_drawn_and_undone_after_a_clear_does_not_cost_what_was_cleared) {
+    const StrokeList strokes{freehand({a, b}), freehand({b, {90, 90}})};
+    const StrokeList other{freehand({a, b})};
+    drawnBy(strokes);
+    drawnBy({});
+    EXPECT_EQ(kinds(drawnBy(other)), (std::vector<Kind>{Kind::stroke}));
+    layer.update({}, {});
+    graphics.lastBitmap = nullptr;
+    layer.update(strokes, {});
+    EXPECT_EQ(graphics.lastBitmap, nullptr);
+}
+
+TEST_F(FinishedLayer, what_was_cleared_is_painted_anew_for_a_new_size_or_a_fade) {
+    const StrokeList strokes{freehand({a, b})};
+    const StrokeRef gone = StrokeList{freehand({a, b}, DrawingTool::pen, 2)}.ref(0);
+    drawnBy(strokes);
+    layer.update({}, {});
+    layer.layout({300, 200}, 2);
+    graphics.lastBitmap = nullptr;
+    EXPECT_EQ(kinds(drawnBy(strokes)), (std::vector<Kind>{Kind::stroke}));
+    layer.update({}, {});
+    EXPECT_EQ(kinds(drawnBy(strokes, {{gone, 0.5}})),
+              (std::vector<Kind>{Kind::stroke, Kind::stroke}));
+}
+
+TEST_F(FinishedLayer, a_picture_with_a_fading_stroke_is_not_put_aside) {
+    const StrokeList strokes{freehand({a, b})};
+    const StrokeRef gone = StrokeList{freehand({a, b}, DrawingTool::pen, 2)}.ref(0);
+    drawnBy(strokes, {{gone, 0.5}});
+    layer.update({}, {});
+    graphics.lastBitmap = nullptr;
+    EXPECT_EQ(kinds(drawnBy(strokes)), (std::vector<Kind>{Kind::stroke}));
+}
+
 TEST_F(FinishedLayer, a_new_size_paints_everything_anew) {
     const StrokeList strokes{freehand({a, b})};
     drawnBy(strokes);
