@@ -101,9 +101,16 @@ void RecorderWidget::mouseReleaseEvent(QMouseEvent* event) {
 void RecorderWidget::keyPressEvent(QKeyEvent* event) {
     // Whatever the control makes of it, the key goes no further.
     event->accept();
-    if (const auto key = m_readKey(*event)) {
+    if (isPressedBy(*event)) {
+        click();
+    } else if (const auto key = m_readKey(*event)) {
         m_control->keyDown(*key);
     }
+}
+
+bool RecorderWidget::isPressedBy(const QKeyEvent& key) const {
+    return !m_control->isRecording() && FocusRing::isShown(*this) && key.key() == Qt::Key_Space &&
+           key.modifiers() == Qt::NoModifier && !key.isAutoRepeat();
 }
 
 void RecorderWidget::keyReleaseEvent(QKeyEvent* event) {

@@ -37,6 +37,9 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    /// The space bar presses the button for who works the window by keys, and so sees its ring. To
+    /// the control every key is one that it records, or nothing.
+    bool isPressedBy(const QKeyEvent& key) const;
     void updateGrab();
     void setGrabbed(bool grabbed);
 

@@ -211,6 +211,20 @@ TEST_F(SettingsLooks, a_key_while_no_row_records_goes_no_further) {
     EXPECT_FALSE(settings().hotkeys->contains(HotkeyAction::undo));
 }
 
+TEST_F(SettingsLooks, space_begins_a_recording_for_who_works_the_window_by_keys) {
+    show(SettingsTab::hotkeys);
+    auto* undo = recorder("Undo");
+    undo->setFocus();
+    widget->window()->setAttribute(Qt::WA_KeyboardFocusChange);
+    key = KeyEvent{49, 0, false};
+    QTest::keyClick(undo, Qt::Key_Space);
+    turn();
+    EXPECT_FALSE(alert());
+    key = KeyEvent{49, NSEventModifierFlags::control, false};
+    QTest::keyClick(undo, Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_EQ(settings().hotkeys->at(HotkeyAction::undo).keyCode, 49U);
+}
+
 TEST_F(SettingsLooks, a_refusal_shows_its_title_its_message_and_one_button) {
     show(SettingsTab::hotkeys);
     record("Undo", {40, 0, false});
