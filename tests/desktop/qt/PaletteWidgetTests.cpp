@@ -122,9 +122,12 @@ TEST_F(Palette, the_popover_hangs_below_the_palette_and_above_it_at_the_lower_ed
 }
 
 TEST_F(Palette, the_focus_shows_again_after_a_menu_that_was_opened_by_key) {
+    settle();
+    const QImage without = button(width).grab().toImage();
     button(width).setFocus(Qt::TabFocusReason);
     settle();
     const QImage before = button(width).grab().toImage();
+    ASSERT_NE(before, without);
     QTest::keyClick(&button(width), Qt::Key_Space);
     settle();
     ASSERT_TRUE(popup());
