@@ -1,135 +1,124 @@
-// How soon what follows the pointer is where the pointer is, and what following costs.
+// How soon what follows the pointer is where the pointer is, and what following costs, side by side
+// with the least that following can be.
 //
-//     pointer-following [--moves 500] [--seconds 10]
+//     pointer-following [--rounds 3] [--moves 200] [--seconds 3] [--rows]
 
-#include "benchmarks/ProcessUsage.h"
+#include "benchmarks/FollowerScene.h"
+#include "benchmarks/Report.h"
 #include "benchmarks/Statistics.h"
 
-#include "desktop/support/InputDriver.h"
-#include "desktop/support/ProbeWindow.h"
-#include "desktop/support/Program.h"
-#include "desktop/support/ScreenReader.h"
-#include "desktop/support/VirtualDesktop.h"
-
 #include <sys/prctl.h>
-#include <unistd.h>
 
+#include <algorithm>
 #include <exception>
-#include <functional>
 #include <iostream>
-#include <stdexcept>
-#include <thread>
+#include <memory>
+#include <optional>
 
 using namespace quillon;
 using namespace quillon::bench;
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
-constexpr test::Rgb kPaper{240, 240, 235};
 /// From the pointer to the middle of the halo's line.
 constexpr int kHaloRadius = 17;
-constexpr std::chrono::milliseconds kPatience{500};
-constexpr std::chrono::microseconds kPauseBetweenLooks{50};
-constexpr std::chrono::milliseconds kRest{8};
+/// From the pointer to a place just inside of the spotlight's circle.
+constexpr int kCircleRadius = 145;
+/// In milliseconds, of the program's own pictures.
+constexpr double kMostInTheMiddle = 1;
+constexpr double kMostOfAlmostAll = 4;
+/// In percent of a core.
+constexpr double kMostLoad = 25;
 
-/// The program on a desktop, with a window of another program all over it.
-class Scene {
+/// The halo's line right of the pointer, where nothing of it was when the pointer comes from the
+/// left.
+bool isHaloAt(const test::ScreenReader& screen, test::Pixel place) {
+    return !test::isNear(screen.pixel({place.x + kHaloRadius, place.y}), followedPaper, 40);
+}
+
+/// The right edge of the spotlight's circle, which comes last when the pointer moves to the right.
+bool isCircleAt(const test::ScreenReader& screen, test::Pixel place) {
+    return test::isNear(screen.pixel({place.x + kCircleRadius, place.y}), followedPaper, 2);
+}
+
+/// As a hand moves it, always to the right but for the way back.
+test::Pixel step(int move) {
+    return {400 + 12 * (move % 80), 500 + move % 7};
+}
+
+/// Far enough apart that nothing of one place is seen at the next.
+test::Pixel jump(int move) {
+    return {400 + 1000 * (move % 2) + move % 7, 300 + 400 * (move % 2)};
+}
+
+/// Whose figures have to come to something: the bare follower is the floor for the program.
+enum class Role { floor, own };
+
+class Measurement {
 public:
-    /// `chord` switches on what is to follow; `isThere` tells by the screen whether it has come to
-    /// a place.
-    Scene(std::string_view key, std::function<bool(const test::ScreenReader&, test::Pixel)> isThere)
-        : m_isThere(std::move(isThere)) {
-        m_input.chord({"Super_L", "Shift_L", key});
-        test::eventually([&] {
-            m_input.moveTo({399, 400});
-            m_input.moveTo({400, 400});
-            return m_isThere(m_screen, {400, 400});
-        });
-    }
+    Measurement(int moves, int seconds)
+        : m_moves(moves)
+        , m_seconds(seconds) {}
 
-    Samples timeMoves(int moves) {
-        Samples times;
-        for (int move = 0; move < moves; ++move) {
-            // Far enough apart that nothing of one place is seen at the next.
-            const test::Pixel place{400 + 1000 * (move % 2) + move % 7, 300 + 400 * (move % 2)};
-            const auto start = Clock::now();
-            m_input.moveTo(place);
-            while (!m_isThere(m_screen, place)) {
-                if (Clock::now() - start > kPatience) {
-                    throw std::runtime_error("a move was not followed");
-                }
-                std::this_thread::sleep_for(kPauseBetweenLooks);
-            }
-            times.add(std::chrono::duration<double, std::milli>(Clock::now() - start).count());
-            std::this_thread::sleep_for(kRest);
-        }
-        return times;
-    }
+    const std::vector<Row>& rows() const { return m_rows; }
 
-    /// The share of one core, in percent, while the pointer moves a thousand times a second.
-    double loadOfBurst(int seconds) {
-        const ProcessUsage before = ProcessUsage::of(m_program.process().pid());
-        const auto start = Clock::now();
-        const int moves = seconds * 1000;
-        for (int move = 0; move < moves; ++move) {
-            m_input.moveTo({300 + move % 1000, 300 + move % 400});
-            std::this_thread::sleep_until(start + (move + 1) * std::chrono::milliseconds(1));
-        }
-        const std::chrono::duration<double> elapsed = Clock::now() - start;
-        const ProcessUsage used = ProcessUsage::of(m_program.process().pid()).since(before);
-        const double ticksPerSecond = static_cast<double>(sysconf(_SC_CLK_TCK));
-        return 100 * static_cast<double>(used.processorTicks) / ticksPerSecond / elapsed.count();
+    void takeRound() {
+        takeTimes("bare halo", Role::floor, *std::make_unique<BareScene>("halo", isHaloAt));
+        takeTimes("halo", Role::own, *std::make_unique<ProgramScene>("h", isHaloAt));
+        takeTimes("bare spotlight", Role::floor,
+                  *std::make_unique<BareScene>("spotlight", isCircleAt));
+        const auto spotlight = std::make_unique<ProgramScene>("l", isCircleAt);
+        takeTimes("spotlight", Role::own, *spotlight);
+        spotlight->toggle("h");
+        add("halo and spotlight: of a core at 1000 moves a second", "%", atMost(kMostLoad),
+            spotlight->loadOfBurst(m_seconds));
     }
-
-    test::InputDriver& input() { return m_input; }
 
 private:
-    std::function<bool(const test::ScreenReader&, test::Pixel)> m_isThere;
-    test::VirtualDesktop m_desktop;
-    test::ProbeWindow m_paper{m_desktop.display(), {0, 0, 1920, 1080}, kPaper};
-    test::Program m_program{m_desktop};
-    test::InputDriver m_input{m_desktop.connection()};
-    test::ScreenReader m_screen{m_desktop.connection()};
+    void takeTimes(const std::string& name, Role role, FollowerScene& scene) {
+        const auto take = [&](const std::string& kind, FollowerScene::Way way) {
+            const Samples times = scene.timeMoves(way, m_moves);
+            const auto addTime = [&](const std::string& which, double percent, double most) {
+                add(name + ": " + kind + " → picture, " + which, "ms",
+                    role == Role::own ? std::optional(atMost(most)) : std::nullopt,
+                    times.percentile(percent));
+            };
+            addTime("p50", 50, kMostInTheMiddle);
+            addTime("p99", 99, kMostOfAlmostAll);
+        };
+        take("step", step);
+        take("jump", jump);
+    }
+
+    /// Adds what a figure came to in one more round.
+    void add(const std::string& figure, const std::string& unit,
+             const std::optional<Target>& target, double value) {
+        auto row = std::ranges::find(m_rows, figure, &Row::figure);
+        if (row == m_rows.end()) {
+            row = m_rows.insert(row, {"pointer", figure, unit, {}, target});
+        }
+        row->rounds.push_back(value);
+    }
+
+    int m_moves;
+    int m_seconds;
+    std::vector<Row> m_rows;
 };
-
-bool isHaloAt(const test::ScreenReader& screen, test::Pixel place) {
-    return !test::isNear(screen.pixel({place.x - kHaloRadius, place.y}), kPaper, 40);
-}
-
-/// The circle of the spotlight: clear at the pointer.
-bool isCircleAt(const test::ScreenReader& screen, test::Pixel place) {
-    return test::isNear(screen.pixel(place), kPaper, 2);
-}
-
-std::string rowOf(const std::string& name, const Samples& times, double load) {
-    return row({name, std::to_string(times.count()), fixed(times.percentile(50), 2),
-                fixed(times.percentile(99), 2), fixed(load, 1)});
-}
 
 } // namespace
 
 int main(int count, char** arguments) {
     try {
         const std::vector<std::string> options(arguments + 1, arguments + count);
-        const int moves = option(options, "--moves", 500);
-        const int seconds = option(options, "--seconds", 10);
         // Pauses of microseconds are kept as such.
         prctl(PR_SET_TIMERSLACK, 1);
-        std::cout << head(
-            {"pointer → picture", "moves", "p50 ms", "p99 ms", "% of a core at 1000 Hz"});
-        {
-            Scene halo("h", isHaloAt);
-            const Samples times = halo.timeMoves(moves);
-            std::cout << rowOf("halo", times, halo.loadOfBurst(seconds)) << std::flush;
+        Measurement measurement(option(options, "--moves", 200), option(options, "--seconds", 3));
+        for (int round = 0; round < option(options, "--rounds", 3); ++round) {
+            measurement.takeRound();
         }
-        {
-            Scene spotlight("l", isCircleAt);
-            const Samples times = spotlight.timeMoves(moves);
-            std::cout << rowOf("spotlight", times, spotlight.loadOfBurst(seconds)) << std::flush;
-            spotlight.input().chord({"Super_L", "Shift_L", "h"});
-            std::cout << row({"both", "", "", "", fixed(spotlight.loadOfBurst(seconds), 1)});
+        Report report(options);
+        for (const Row& row : measurement.rows()) {
+            report.add(row);
         }
         return 0;
     } catch (const std::exception& error) {
