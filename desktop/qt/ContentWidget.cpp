@@ -4,6 +4,7 @@
 #include "desktop/qt/QtConversions.h"
 #include "desktop/qt/QtGraphicsContext.h"
 #include "desktop/qt/TextFieldWidget.h"
+#include "desktop/x11/XcbHandles.h"
 
 #include <QBackingStore>
 #include <QCoreApplication>
@@ -101,6 +102,15 @@ bool ContentWidget::eventFilter(QObject* watched, QEvent* event) {
         m_onPress();
     }
     return QWidget::eventFilter(watched, event);
+}
+
+bool ContentWidget::nativeEvent(const QByteArray& kind, void* message, qintptr* /*result*/) {
+    if (kind != "xcb_generic_event_t") {
+        return false;
+    }
+    const auto& event = *static_cast<const xcb_generic_event_t*>(message);
+    return eventType(event) == XCB_CONFIGURE_NOTIFY && isMereMove &&
+           isMereMove(eventAs<xcb_configure_notify_event_t>(event));
 }
 
 void ContentWidget::setComposited(bool composited) {

@@ -43,6 +43,9 @@ public:
     /// Called with the outline, in device pixels, when it may have changed.
     std::function<void(const QRegion&)> onOutlined;
 
+    /// Asked of each place that the server tells: whether the toolkit can do without it.
+    std::function<bool(const xcb_configure_notify_event_t&)> isMereMove;
+
     /// Puts the whole picture on the screen once more.
     void display();
 
@@ -61,6 +64,7 @@ protected:
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    bool nativeEvent(const QByteArray& kind, void* message, qintptr* result) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;

@@ -40,6 +40,9 @@ QtWindow::QtWindow(Window& window, const Surroundings& surroundings)
     m_widget.onAboutToShow = [this] { stayBelowTitledWindow(); };
     m_widget.onEditingChanged = [this] { giveBackKeyboardIfUnused(); };
     m_widget.onControlsPlaced = [this](const QRect& place) { blurBehind(place); };
+    m_widget.isMereMove = [this](const xcb_configure_notify_event_t& event) {
+        return m_window.ignoresMouseEvents() && m_placement.isMereMove(event);
+    };
     m_widget.onOutlined = [this](const QRegion& outline) { takeOutline(outline); };
     m_surroundings.all.insert(this);
     setFrame(window.frame());

@@ -50,6 +50,11 @@ void WindowPlacement::bringToFront(std::optional<xcb_window_t> ceiling) {
     }
 }
 
+bool WindowPlacement::isMereMove(const xcb_configure_notify_event_t& event) {
+    const QSize size(event.width, event.height);
+    return std::exchange(m_toldSize, size) == size && onlyMoves();
+}
+
 void WindowPlacement::placeLater() {
     if (std::exchange(m_isTurnPending, true)) {
         return;
