@@ -40,6 +40,12 @@ int pointsOfWholePixels(CGFloat scale) {
     return 96;
 }
 
+bool hasPremultipliedPixels(QBackingStore& store) {
+    const QPaintDevice* device = store.paintDevice();
+    return device->devType() == QInternal::Image &&
+           static_cast<const QImage*>(device)->format() == QImage::Format_ARGB32_Premultiplied;
+}
+
 } // namespace
 
 ContentWidget::ContentWidget(xcb_connection_t* connection, std::function<void()> onPress)
@@ -47,6 +53,7 @@ ContentWidget::ContentWidget(xcb_connection_t* connection, std::function<void()>
     , m_directPainting(
           *this, connection,
           [this](QPainter& painter, const QRect& rect) { paintContent(painter, rect); })
+    , m_stamped(connection)
     , m_onPress(std::move(onPress)) {
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_NoSystemBackground);
@@ -166,7 +173,7 @@ void ContentWidget::putOnScreen(const QRegion& region) {
         repaint(region);
         return;
     }
-    if (isComposited() && m_directPainting.put(*store, region)) {
+    if (isComposited() && (putStamped(*store, region) || m_directPainting.put(*store, region))) {
         return;
     }
     store->beginPaint(region);
@@ -182,6 +189,18 @@ bool ContentWidget::isUnderChild(const QRegion& region) const {
         const auto* widget = qobject_cast<const QWidget*>(child);
         return widget && widget->isVisible() && region.intersects(widget->geometry());
     });
+}
+
+bool ContentWidget::putStamped(QBackingStore& store, const QRegion& region) {
+    const auto picture = m_content->rootView->stampedPicture();
+    if (!picture || m_backgroundColor.isValid() || !hasPremultipliedPixels(store)) {
+        return false;
+    }
+    QRegion pixels;
+    for (const QRect& rect : region) {
+        pixels += devicePixels(fromQRectF(rect), devicePixelRatio());
+    }
+    return m_stamped.put(static_cast<xcb_window_t>(internalWinId()), *picture, pixels);
 }
 
 void ContentWidget::display() {

@@ -3,6 +3,7 @@
 #include "desktop/qt/DirectDrag.h"
 #include "desktop/qt/DirectPainting.h"
 #include "desktop/qt/InkMask.h"
+#include "desktop/qt/StampedContent.h"
 #include "platform/Window.h"
 
 #include <QColor>
@@ -90,6 +91,8 @@ private:
     /// Paints the region and puts it on the screen at once.
     void putOnScreen(const QRegion& region);
     bool isUnderChild(const QRegion& region) const;
+    /// Puts a picture that need not be painted on the screen; false when that cannot be done.
+    bool putStamped(QBackingStore& store, const QRegion& region);
     void paintRegion(QPainter& painter, const QRegion& region);
     void paintContent(QPainter& painter, const QRect& rect);
     void paintOutlined(QPainter& painter, const QRect& rect);
@@ -97,6 +100,7 @@ private:
 
     DirectDrag m_directDrag;
     DirectPainting m_directPainting;
+    StampedContent m_stamped;
     std::function<void()> m_onPress;
     std::shared_ptr<HostingView> m_content;
     QColor m_backgroundColor;

@@ -6,6 +6,7 @@
 #include "platform/ControlView.h"
 #include "platform/Damage.h"
 #include "platform/GraphicsContext.h"
+#include "platform/StampedPicture.h"
 
 #include <functional>
 #include <optional>
@@ -67,6 +68,9 @@ public:
     /// Paints what stands in `rect`, over full transparency. `rect` is made of whole device pixels
     /// and clips the context.
     virtual void paint(GraphicsContext& context, const CGRect& rect) = 0;
+    /// The whole picture, pixel for pixel what `paint` paints, where it is as plain as this: a host
+    /// may put it together in less time than it takes to paint.
+    virtual std::optional<StampedPicture> stampedPicture() { return std::nullopt; }
 
     virtual std::optional<TextField> textField() { return std::nullopt; }
 

@@ -1,6 +1,7 @@
 #include "spotlight/DimmedPicture.h"
 
 #include <cmath>
+#include <utility>
 
 namespace quillon {
 
@@ -52,20 +53,29 @@ CGFloat DimmedPicture::Look::reach() const {
 
 void DimmedPicture::paint(GraphicsContext& context, const CGRect& rect, const Circle& circle,
                           const Color& color, CGFloat scale) {
+    const auto picture = stamped(circle, color, scale);
+    if (!picture) {
+        fillAround(context, rect, circle, color);
+        return;
+    }
+    const CGSize size = picture->stamp->size();
+    const CGRect square{picture->corner.x, picture->corner.y, size.width, size.height};
+    fillOutside(context, rect, square, color);
+    context.draw(*picture->stamp, rect.intersection(square), square.origin());
+}
+
+std::optional<StampedPicture> DimmedPicture::stamped(const Circle& circle, const Color& color,
+                                                     CGFloat scale) {
     const CGPoint center = circle.center * scale;
     const Look look{circle.radius * scale, {phase(center.x), phase(center.y)}, color, scale};
     if (look.radius > kLargestRadius) {
-        fillAround(context, rect, circle, color);
-        return;
+        return std::nullopt;
     }
     if (!m_square || look != m_look) {
         paintSquare(look);
     }
     const CGPoint corner{std::floor(center.x) - look.reach(), std::floor(center.y) - look.reach()};
-    const CGRect square{corner.x / scale, corner.y / scale, 2 * look.reach() / scale,
-                        2 * look.reach() / scale};
-    fillOutside(context, rect, square, color);
-    context.draw(*m_square, rect.intersection(square), square.origin());
+    return StampedPicture{color, m_square, {corner.x / scale, corner.y / scale}};
 }
 
 void DimmedPicture::paintSquare(const Look& look) {
@@ -74,10 +84,11 @@ void DimmedPicture::paintSquare(const Look& look) {
     const CGPoint center{(look.reach() + look.phase.x) / look.scale,
                          (look.reach() + look.phase.y) / look.scale};
     m_look = look;
-    m_square = m_graphics.makeBitmap(square.size(), look.scale);
-    m_square->paint(square, [&](GraphicsContext& context) {
+    std::shared_ptr<Bitmap> bitmap = m_graphics.makeBitmap(square.size(), look.scale);
+    bitmap->paint(square, [&](GraphicsContext& context) {
         fillAround(context, square, {center, look.radius / look.scale}, look.color);
     });
+    m_square = std::move(bitmap);
 }
 
 } // namespace quillon

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "platform/Bitmap.h"
+#include "platform/StampedPicture.h"
 #include "spotlight/Circle.h"
 
 #include <memory>
+#include <optional>
 
 namespace quillon {
 
@@ -22,6 +23,8 @@ public:
     /// point.
     void paint(GraphicsContext& context, const CGRect& rect, const Circle& circle,
                const Color& color, CGFloat scale);
+    /// The same as a value; none for a circle whose square would be too large to keep.
+    std::optional<StampedPicture> stamped(const Circle& circle, const Color& color, CGFloat scale);
 
 private:
     /// What the square's pixels depend on.
@@ -42,7 +45,7 @@ private:
 
     Graphics& m_graphics;
     Look m_look;
-    std::unique_ptr<Bitmap> m_square;
+    std::shared_ptr<const Bitmap> m_square;
 };
 
 } // namespace quillon

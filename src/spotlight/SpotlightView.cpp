@@ -14,6 +14,10 @@ Circle circleOf(const SpotlightView::Value& value) {
     return {value.cursorLocation, std::abs(value.radius)};
 }
 
+Color colorOf(const SpotlightView::Value& value) {
+    return Color::black.opacity(value.intensity);
+}
+
 } // namespace
 
 SpotlightView::SpotlightView(const Value& value)
@@ -45,8 +49,11 @@ Damage SpotlightView::takeDamage() {
 }
 
 void SpotlightView::paint(GraphicsContext& context, const CGRect& rect) {
-    m_picture.paint(context, rect, circleOf(m_value), Color::black.opacity(m_value.intensity),
-                    m_scale);
+    m_picture.paint(context, rect, circleOf(m_value), colorOf(m_value), m_scale);
+}
+
+std::optional<StampedPicture> SpotlightView::stampedPicture() {
+    return m_picture.stamped(circleOf(m_value), colorOf(m_value), m_scale);
 }
 
 } // namespace quillon

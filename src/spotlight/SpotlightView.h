@@ -3,6 +3,8 @@
 #include "platform/ContentView.h"
 #include "spotlight/DimmedPicture.h"
 
+#include <optional>
+
 namespace quillon {
 
 /// Black of some opacity over everything but a circle. The circle's edge is hard: no feather, no
@@ -30,6 +32,7 @@ public:
     void layout(CGSize size, CGFloat scale) override;
     Damage takeDamage() override;
     void paint(GraphicsContext& context, const CGRect& rect) override;
+    std::optional<StampedPicture> stampedPicture() override;
 
 private:
     CGRect bounds() const { return {0, 0, m_size.width, m_size.height}; }

@@ -87,6 +87,39 @@ TEST_F(SpotlightViewTest, the_square_round_the_circle_is_painted_once_for_many_p
     EXPECT_EQ(host.graphics.lastBitmap->size(), (CGSize{284, 284}));
 }
 
+TEST_F(SpotlightViewTest, as_a_value_it_is_the_black_and_that_square) {
+    show({{300, 200}, 150, 0.7});
+    drawn();
+    const auto picture = view->stampedPicture();
+    ASSERT_TRUE(picture);
+    EXPECT_EQ(picture->ground, Color(0, 0, 0, 0.7));
+    EXPECT_EQ(picture->stamp.get(), host.graphics.lastBitmap);
+    EXPECT_EQ(picture->corner, (CGPoint{148, 48}));
+    view->setValue({{310, 190}, 150, 0.7});
+    EXPECT_EQ(view->stampedPicture()->stamp, picture->stamp);
+    EXPECT_EQ(view->stampedPicture()->corner, (CGPoint{158, 38}));
+}
+
+TEST_F(SpotlightViewTest, another_look_is_another_square_and_leaves_the_one_before_as_it_was) {
+    show({{300, 200}, 150, 0.7});
+    const auto before = view->stampedPicture();
+    view->setValue({{300, 200}, 150, 0.5});
+    const auto after = view->stampedPicture();
+    EXPECT_NE(after->stamp, before->stamp);
+    EXPECT_EQ(after->ground, Color(0, 0, 0, 0.5));
+    EXPECT_EQ(before->stamp->size(), (CGSize{304, 304}));
+}
+
+TEST_F(SpotlightViewTest, a_square_too_large_to_keep_is_no_value) {
+    show({{300, 200}, 1000, 0.7});
+    EXPECT_TRUE(view->stampedPicture());
+    view->setValue({{300, 200}, 1001, 0.7});
+    EXPECT_FALSE(view->stampedPicture());
+    view->layout({1000, 800}, 2);
+    view->setValue({{300, 200}, 501, 0.7});
+    EXPECT_FALSE(view->stampedPicture());
+}
+
 TEST_F(SpotlightViewTest, a_far_move_damages_the_old_and_the_new_circle_and_no_more) {
     show({{200, 200}, 50, 0.7});
     view->setValue({{800, 600}, 50, 0.7});
