@@ -18,7 +18,7 @@ namespace {
 constexpr std::chrono::milliseconds kRest{4};
 
 NSEventType typeOf(const RawPointerEvent& raw) {
-    if (raw.kind == RawPointerEvent::Kind::motion) {
+    if (raw.kind != RawPointerEvent::Kind::press) {
         return NSEventType::mouseMoved;
     }
     switch (raw.button) {
@@ -138,7 +138,8 @@ void QtEventMonitors::timerEvent(QTimerEvent* event) {
 
 void QtEventMonitors::reportToGlobal(const RawPointerEvent& raw) {
     const PointerState pointer = m_rawEvents->pointer();
-    const bool isDrag = raw.kind == RawPointerEvent::Kind::motion && pointer.isButtonHeld;
+    const bool isDrag = raw.kind == RawPointerEvent::Kind::drag ||
+                        (raw.kind == RawPointerEvent::Kind::motion && pointer.isButtonHeld);
     if (isDrag || m_surroundings.holdsPointer() || m_rawEvents->wasOver(m_ownIds)) {
         return;
     }

@@ -2,8 +2,6 @@
 
 #include "desktop/x11/XcbHandles.h"
 
-#include <xcb/xinput.h>
-
 #include <algorithm>
 #include <optional>
 #include <utility>
@@ -38,15 +36,16 @@ std::optional<std::uint8_t> inputExtension(xcb_connection_t* connection) {
 bool selectRawEvents(xcb_connection_t* connection, xcb_window_t root) {
     struct {
         xcb_input_event_mask_t head{XCB_INPUT_DEVICE_ALL_MASTER, 1};
-        std::uint32_t events =
-            XCB_INPUT_XI_EVENT_MASK_RAW_MOTION | XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS;
+        std::uint32_t events = XCB_INPUT_XI_EVENT_MASK_RAW_MOTION |
+                               XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS |
+                               XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_RELEASE;
     } const mask;
     return !requestError(connection,
                          xcb_input_xi_select_events_checked(connection, root, 1, &mask.head));
 }
 
 /// False for a device's wheel or pen pressure, which comes as a motion too.
-bool changesPlace(const xcb_input_raw_motion_event_t& motion) {
+bool changesPlace(const xcb_input_raw_button_press_event_t& motion) {
     return motion.valuators_len > 0 &&
            (*xcb_input_raw_button_press_valuator_mask(&motion) & kPlaceValuators) != 0;
 }
@@ -81,32 +80,48 @@ void RawPointerEvents::take(std::vector<RawPointerEvent>& events) {
 }
 
 void RawPointerEvents::note(const xcb_generic_event_t& event,
-                            std::vector<RawPointerEvent>& events) const {
+                            std::vector<RawPointerEvent>& events) {
     if (eventType(event) != XCB_GE_GENERIC ||
         eventAs<xcb_ge_generic_event_t>(event).extension != m_extension) {
         return;
     }
-    switch (eventAs<xcb_ge_generic_event_t>(event).event_type) {
-    case XCB_INPUT_RAW_MOTION: {
-        const RawPointerEvent motion{RawPointerEvent::Kind::motion};
-        const bool isKnown = !events.empty() && events.back() == motion;
-        if (!isKnown && changesPlace(eventAs<xcb_input_raw_motion_event_t>(event))) {
-            events.push_back(motion);
+    // All three have one layout.
+    const auto& raw = eventAs<xcb_input_raw_button_press_event_t>(event);
+    switch (raw.event_type) {
+    case XCB_INPUT_RAW_MOTION:
+        if (changesPlace(raw)) {
+            noteMotion(events);
         }
         break;
-    }
-    case XCB_INPUT_RAW_BUTTON_PRESS: {
-        const std::uint8_t button =
-            mappedButton(eventAs<xcb_input_raw_button_press_event_t>(event).detail);
-        const bool isWheel = button >= kFirstWheelButton && button <= kLastWheelButton;
-        if (button != 0 && !isWheel) {
-            events.push_back({RawPointerEvent::Kind::press, button});
-        }
+    case XCB_INPUT_RAW_BUTTON_PRESS:
+        notePress({raw.sourceid, raw.detail}, events);
         break;
-    }
+    case XCB_INPUT_RAW_BUTTON_RELEASE:
+        m_heldButtons.erase({raw.sourceid, raw.detail});
+        break;
     default:
         break;
     }
+}
+
+void RawPointerEvents::noteMotion(std::vector<RawPointerEvent>& events) const {
+    using Kind = RawPointerEvent::Kind;
+    const RawPointerEvent motion{m_heldButtons.empty() ? Kind::motion : Kind::drag};
+    if (events.empty() || events.back() != motion) {
+        events.push_back(motion);
+    }
+}
+
+void RawPointerEvents::notePress(const Button& button, std::vector<RawPointerEvent>& events) {
+    const std::uint8_t mapped = mappedButton(button.number);
+    const bool isWheel = mapped >= kFirstWheelButton && mapped <= kLastWheelButton;
+    if (mapped == 0 || isWheel) {
+        return;
+    }
+    if (mapped < kFirstWheelButton) {
+        m_heldButtons.insert(button);
+    }
+    events.push_back({RawPointerEvent::Kind::press, mapped});
 }
 
 std::uint8_t RawPointerEvents::mappedButton(std::uint32_t physicalButton) const {

@@ -2,9 +2,13 @@
 
 #include "desktop/x11/XcbConnection.h"
 
+#include <xcb/xinput.h>
+
+#include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -12,7 +16,9 @@ namespace quillon::desktop {
 
 /// What a hand did to the pointer, whichever program it was meant for.
 struct RawPointerEvent {
-    enum class Kind { motion, press };
+    /// A drag is a motion with one of the first three buttons held, the only ones beside the wheel
+    /// of which the server keeps account for everybody.
+    enum class Kind { motion, drag, press };
 
     Kind kind = Kind::motion;
     /// Of a press: the button as the user's mapping names it, 1 for the primary one.
@@ -63,8 +69,8 @@ public:
     bool isAlive() const { return xcb_connection_has_error(m_connection.get()) == 0; }
 
     /// Appends what has happened since the last call, in order. Motions with no press between them
-    /// are one. The wheel turns without a trace, and so does a button that the mapping switches
-    /// off.
+    /// are one, and so are drags. The wheel turns without a trace, and so does a button that the
+    /// mapping switches off.
     void take(std::vector<RawPointerEvent>& events);
 
     /// Asks the server.
@@ -76,7 +82,17 @@ public:
 private:
     RawPointerEvents(XcbConnection connection, std::uint8_t extension);
 
-    void note(const xcb_generic_event_t& event, std::vector<RawPointerEvent>& events) const;
+    /// A button of one of the devices that move the pointer.
+    struct Button {
+        xcb_input_device_id_t device = 0;
+        std::uint32_t number = 0;
+
+        friend auto operator<=>(const Button&, const Button&) = default;
+    };
+
+    void note(const xcb_generic_event_t& event, std::vector<RawPointerEvent>& events);
+    void noteMotion(std::vector<RawPointerEvent>& events) const;
+    void notePress(const Button& button, std::vector<RawPointerEvent>& events);
     /// Gives up the answers to all requests from one on.
     void discard(std::vector<xcb_query_pointer_cookie_t>& asked, std::size_t from) const;
     std::uint8_t mappedButton(std::uint32_t physicalButton) const;
@@ -84,6 +100,9 @@ private:
     XcbConnection m_connection;
     /// The number by which events name the extension.
     std::uint8_t m_extension;
+    /// By the events taken so far: what the server would answer is later than they are. A device
+    /// that goes lets go of its buttons first.
+    std::set<Button> m_heldButtons;
     /// From the root window to the one in which the pointer was last.
     std::vector<xcb_window_t> m_wayDown;
 };

@@ -40,6 +40,13 @@ void InputDriver::moveTo(Pixel place) {
     fake(XCB_MOTION_NOTIFY, 0, place);
 }
 
+void InputDriver::warpTo(Pixel place) {
+    m_place = place;
+    xcb_warp_pointer(m_connection.get(), XCB_NONE, m_connection.root(), 0, 0, 0, 0,
+                     static_cast<std::int16_t>(place.x), static_cast<std::int16_t>(place.y));
+    m_connection.synchronise();
+}
+
 void InputDriver::press(int button) {
     fake(XCB_BUTTON_PRESS, static_cast<std::uint8_t>(button));
 }

@@ -20,6 +20,8 @@ public:
     explicit InputDriver(XConnection& connection);
 
     void moveTo(Pixel place);
+    /// Puts the pointer there as a program does, with no device that has moved.
+    void warpTo(Pixel place);
     void press(int button = 1);
     void release(int button = 1);
     void click(Pixel place, int button = 1);

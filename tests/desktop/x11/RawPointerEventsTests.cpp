@@ -20,6 +20,7 @@ using desktop::RawPointerEvents;
 using Events = std::vector<RawPointerEvent>;
 
 constexpr RawPointerEvent kMotion{RawPointerEvent::Kind::motion};
+constexpr RawPointerEvent kDrag{RawPointerEvent::Kind::drag};
 
 constexpr RawPointerEvent press(std::uint8_t button) {
     return {RawPointerEvent::Kind::press, button};
@@ -124,6 +125,60 @@ TEST_F(RawPointerEventsTest, a_held_button_is_seen_until_it_is_up) {
     EXPECT_TRUE(raw->pointer().isButtonHeld);
     input.release(1);
     EXPECT_FALSE(raw->pointer().isButtonHeld);
+}
+
+TEST_F(RawPointerEventsTest, a_drag_that_has_ended_within_its_burst_is_no_plain_motion) {
+    input.moveTo({10, 10});
+    input.press(1);
+    input.moveTo({20, 20});
+    input.moveTo({30, 30});
+    input.release(1);
+    EXPECT_EQ(take(), (Events{kMotion, press(1), kDrag}));
+    input.moveTo({40, 40});
+    EXPECT_EQ(take(), Events{kMotion});
+}
+
+TEST_F(RawPointerEventsTest, a_drag_goes_on_until_the_last_button_is_up) {
+    input.press(1);
+    input.press(3);
+    input.release(1);
+    input.moveTo({20, 20});
+    EXPECT_EQ(take(), (Events{press(1), press(3), kDrag}));
+    input.release(3);
+    input.moveTo({30, 30});
+    EXPECT_EQ(take(), Events{kMotion});
+}
+
+TEST_F(RawPointerEventsTest, neither_a_wheel_nor_a_side_button_makes_a_drag) {
+    constexpr int kWheelUp = 4;
+    constexpr int kBack = 8;
+    for (const int button : {kWheelUp, kBack}) {
+        input.press(button);
+        take();
+        input.moveTo({10 * button, 10});
+        EXPECT_EQ(take(), Events{kMotion});
+        input.release(button);
+    }
+}
+
+TEST_F(RawPointerEventsTest, a_release_and_a_press_that_are_yet_to_be_taken_leave_a_drag) {
+    input.press(1);
+    input.release(1);
+    // The server says that the button is up, and of the press which follows it knows nothing yet.
+    raw->pointer();
+    input.press(1);
+    input.moveTo({20, 20});
+    EXPECT_EQ(take(), (Events{press(1), press(1), kDrag}));
+    input.moveTo({30, 30});
+    EXPECT_EQ(take(), Events{kDrag});
+}
+
+TEST_F(RawPointerEventsTest, a_pointer_that_is_warped_by_a_program_tells_nothing) {
+    input.warpTo({123, 45});
+    EXPECT_EQ(take(), Events{});
+    // Where it has come to is known with the next press or move of a hand.
+    EXPECT_EQ(raw->pointer().x, 123);
+    EXPECT_EQ(raw->pointer().y, 45);
 }
 
 TEST_F(RawPointerEventsTest, events_are_heard_while_another_program_holds_the_pointer) {
