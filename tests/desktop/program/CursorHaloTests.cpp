@@ -1,8 +1,7 @@
 #include "desktop/program/ProgramTest.h"
 #include "desktop/support/ScreenSize.h"
+#include "desktop/support/WakeUps.h"
 
-#include <filesystem>
-#include <fstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -16,22 +15,6 @@ constexpr int kRadius = 17;
 
 bool isHalo(Rgb seen) {
     return isNear(seen, kHalo, 30);
-}
-
-/// How often all threads of a process have come to the processor of their own accord.
-long wakeUpsOf(pid_t process) {
-    long sum = 0;
-    const std::string tasks = "/proc/" + std::to_string(process) + "/task";
-    for (const auto& thread : std::filesystem::directory_iterator(tasks)) {
-        std::ifstream status(thread.path() / "status");
-        const std::string name = "voluntary_ctxt_switches:";
-        for (std::string line; std::getline(status, line);) {
-            if (line.starts_with(name)) {
-                sum += std::stol(line.substr(name.size()));
-            }
-        }
-    }
-    return sum;
 }
 
 /// Counts how often a window is placed or stacked.
@@ -182,6 +165,18 @@ TEST_F(CursorHalo, a_drag_holds_it_still_until_the_button_is_up) {
     input.release();
     input.moveTo({502, 300});
     EXPECT_TRUE(hasRing({502, 300}));
+}
+
+TEST_F(CursorHalo, a_pointer_that_a_program_warps_is_found_at_the_next_press_or_move) {
+    startWithHaloAt({300, 300});
+    input.warpTo({500, 300});
+    EXPECT_TRUE(keepsRing({300, 300}));
+    input.press();
+    input.release();
+    EXPECT_TRUE(hasRing({500, 300}));
+    input.warpTo({600, 200});
+    input.moveTo({601, 200});
+    EXPECT_TRUE(hasRing({601, 200}));
 }
 
 TEST_F(CursorHalo, a_burst_is_followed_in_a_few_steps_and_ends_at_the_newest_place) {

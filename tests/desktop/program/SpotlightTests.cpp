@@ -1,4 +1,5 @@
 #include "desktop/program/ProgramTest.h"
+#include "desktop/support/ScreenSize.h"
 
 namespace quillon::test {
 namespace {
@@ -131,6 +132,64 @@ TEST_F(Spotlight, what_is_drawn_stays_to_be_seen_in_the_circle) {
     ASSERT_TRUE(eventually([this] { return takesPointer(); }));
     input.drag({{430, 300}, {470, 300}});
     EXPECT_TRUE(showsInk({450, 300}));
+}
+
+TEST_F(Spotlight, over_the_overlay_that_catches_the_pointer_the_circle_stays) {
+    startAt({450, 300});
+    ASSERT_TRUE(isClear({450, 300}));
+    toggleAnnotation();
+    ASSERT_TRUE(eventually([this] { return takesPointer(); }));
+    input.moveTo({700, 200});
+    EXPECT_TRUE(stays(
+        [this] {
+            return screen.pixel({450, 300}) == kBackground;
+        },
+        std::chrono::milliseconds(200)));
+    EXPECT_TRUE(isDimmed({700, 200}));
+}
+
+TEST_F(Spotlight, switched_on_over_the_overlay_it_dims_what_is_drawn_there) {
+    prepareTool(DrawingTool::pen);
+    prepare([](AppSettings& settings) {
+        settings.spotlightRadius = 60;
+        settings.spotlightIntensity = 0.7;
+    });
+    startAnnotating();
+    input.drag({{200, 300}, {300, 300}});
+    ASSERT_TRUE(showsInk({250, 300}));
+    input.moveTo({700, 300});
+    toggleSpotlight();
+    EXPECT_TRUE(screen.waitForPixel({250, 300}, [](Rgb seen) {
+        return isNear(seen, {76, 0, 0}, 2);
+    }));
+    input.drag({{650, 300}, {750, 300}});
+    EXPECT_TRUE(showsInk({700, 300}));
+    toggleSpotlight();
+    EXPECT_TRUE(showsInk({250, 300}));
+}
+
+TEST_F(Spotlight, the_circle_passes_from_one_display_to_the_other) {
+    splitScreen(desktop.connection(), 450);
+    startAt({300, 300});
+    for (const int x : {440, 449, 450, 451, 700, 455, 200}) {
+        input.moveTo({x, 300});
+        EXPECT_TRUE(isClear({x - 57, 300})) << x;
+        EXPECT_TRUE(isClear({x + 57, 300})) << x;
+        EXPECT_TRUE(isDimmed({x - 63, 300})) << x;
+        EXPECT_TRUE(isDimmed({x + 63, 300})) << x;
+    }
+}
+
+TEST_F(Spotlight, a_gap_between_two_displays_is_dimmed_and_shows_its_part_of_the_circle) {
+    splitScreen(desktop.connection(), 400, 100);
+    startAt({370, 300});
+    EXPECT_TRUE(isClear({420, 300}));
+    EXPECT_TRUE(isDimmed({440, 300}));
+    input.moveTo({530, 300});
+    EXPECT_TRUE(isClear({480, 300}));
+    EXPECT_TRUE(isClear({585, 300}));
+    EXPECT_TRUE(isDimmed({420, 300}));
+    EXPECT_TRUE(isDimmed({880, 590}));
 }
 
 /// Where no window can be translucent, the dark is complete.

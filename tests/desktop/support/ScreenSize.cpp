@@ -98,12 +98,12 @@ void switchScreenOff(const XConnection& connection) {
     }
 }
 
-void splitScreen(const XConnection& connection, int leftWidth) {
+void splitScreen(const XConnection& connection, int leftWidth, int gap) {
     const Resources resources = resourcesOf(connection);
     const int width = connection.screen().width_in_pixels;
     setMonitor(connection, "left", 0, leftWidth,
                *xcb_randr_get_screen_resources_outputs(resources.get()));
-    setMonitor(connection, "right", leftWidth, width - leftWidth, std::nullopt);
+    setMonitor(connection, "right", leftWidth + gap, width - leftWidth - gap, std::nullopt);
     connection.synchronise();
 }
 

@@ -11,7 +11,8 @@ void changeScreenSize(const XConnection& connection, int width, int height);
 /// Switches the one screen off, as when its plug is pulled.
 void switchScreenOff(const XConnection& connection);
 
-/// Makes two displays of the one screen; the left one, which is the primary one, has this width.
-void splitScreen(const XConnection& connection, int leftWidth);
+/// Makes two displays of the one screen; the left one, which is the primary one, has this width. A
+/// gap between them belongs to neither.
+void splitScreen(const XConnection& connection, int leftWidth, int gap = 0);
 
 } // namespace quillon::test
