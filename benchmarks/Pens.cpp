@@ -186,17 +186,4 @@ PenProgram penWithoutPalette() {
                                                  PenProgram::Role::own);
 }
 
-void startTray(VirtualDesktop& desktop) {
-    const std::string settings = desktop.configFolder() + "/tray.conf";
-    std::ofstream(settings) << "panel_items = S\npanel_size = 100% 30\n"
-                               "panel_position = top center horizontal\n";
-    desktop.start({"tint2", "-c", settings});
-    const auto isThere = [&] {
-        return desktop.connection().selectionOwner("_NET_SYSTEM_TRAY_S0") != XCB_NONE;
-    };
-    if (!test::eventually(isThere)) {
-        throw std::runtime_error("no tray comes up");
-    }
-}
-
 } // namespace quillon::bench

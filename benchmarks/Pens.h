@@ -41,7 +41,4 @@ PenProgram penWithoutPalette();
 /// Whether a program stands on the path.
 bool isInstalled(const std::string& name);
 
-/// Puts a panel with a tray and nothing else on the desktop.
-void startTray(test::VirtualDesktop& desktop);
-
 } // namespace quillon::bench
