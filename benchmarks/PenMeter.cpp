@@ -66,7 +66,8 @@ void PenMeter::measureStroke(PenResult& result) {
 }
 
 void PenMeter::awaitErased() const {
-    if (!test::eventually([this] { return pixelsAround(witness()) == m_blank; }, kPatienceForUndo)) {
+    if (!test::eventually([this] { return pixelsAround(witness()) == m_blank; },
+                          kPatienceForUndo)) {
         throw std::runtime_error("the stroke does not go");
     }
 }
