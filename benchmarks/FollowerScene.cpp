@@ -14,7 +14,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::chrono::milliseconds kPatience{500};
+constexpr std::chrono::milliseconds kPatience{2000};
 constexpr std::chrono::microseconds kPauseBetweenLooks{50};
 constexpr std::chrono::milliseconds kRest{8};
 constexpr test::Pixel kHere{400, 300};
