@@ -375,7 +375,7 @@ void ContentWidget::tellControlsPlace() {
     }
 }
 
-void ContentWidget::showControls(const std::shared_ptr<ControlView>& view) {
+void ContentWidget::showControls(const std::shared_ptr<ControlsView>& view) {
     m_controls = ControlsWidget::make(view, *this);
     m_controls->setComposited(isComposited());
     m_controls->bodyDrag = {

@@ -85,7 +85,7 @@ private:
     void updateTextField();
     void updateControls();
     void tellControlsPlace();
-    void showControls(const std::shared_ptr<ControlView>& view);
+    void showControls(const std::shared_ptr<ControlsView>& view);
     void layoutContent();
     QRegion regionOf(const Damage& damage) const;
     /// Paints the region and puts it on the screen at once.

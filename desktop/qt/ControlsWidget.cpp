@@ -17,7 +17,7 @@ const QEvent::Type kBringUpToDate = static_cast<QEvent::Type>(QEvent::registerEv
 
 } // namespace
 
-std::unique_ptr<ControlsWidget> ControlsWidget::make(const std::shared_ptr<ControlView>& view,
+std::unique_ptr<ControlsWidget> ControlsWidget::make(const std::shared_ptr<ControlsView>& view,
                                                      QWidget& parent) {
     if (auto toolbar = std::dynamic_pointer_cast<FloatingToolbarView>(view)) {
         return std::make_unique<PaletteWidget>(toolbar, parent);
@@ -25,10 +25,10 @@ std::unique_ptr<ControlsWidget> ControlsWidget::make(const std::shared_ptr<Contr
     fatalError("there are no controls for this kind of view");
 }
 
-ControlsWidget::ControlsWidget(const std::shared_ptr<ControlView>& view, QWidget& parent)
+ControlsWidget::ControlsWidget(const std::shared_ptr<ControlsView>& view, QWidget& parent)
     : QWidget(&parent)
     , m_view(view)
-    , m_subscription(view->needsUpdate.sink([this] { scheduleUpdate(); })) {}
+    , m_subscription(view->objectWillChange.sink([this] { scheduleUpdate(); })) {}
 
 void ControlsWidget::place(QPointF center) {
     move((center - QPointF(width(), height()) / 2).toPoint());

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/Cancellable.h"
-#include "platform/ControlView.h"
+#include "platform/ControlsView.h"
 
 #include <QWidget>
 
@@ -15,12 +15,12 @@ namespace quillon::desktop {
 class ControlsWidget : public QWidget {
 public:
     /// The widget for that kind of view.
-    static std::unique_ptr<ControlsWidget> make(const std::shared_ptr<ControlView>& view,
+    static std::unique_ptr<ControlsWidget> make(const std::shared_ptr<ControlsView>& view,
                                                 QWidget& parent);
 
-    ControlsWidget(const std::shared_ptr<ControlView>& view, QWidget& parent);
+    ControlsWidget(const std::shared_ptr<ControlsView>& view, QWidget& parent);
 
-    const ControlView* view() const { return m_view.get(); }
+    const ControlsView* view() const { return m_view.get(); }
     /// Where the view's body is to be seen, in the widget's coordinates. A press beside the
     /// controls and outside of the body goes on to what lies below.
     virtual QRectF body() const = 0;
@@ -53,7 +53,7 @@ private:
     void scheduleUpdate();
     void tell(const std::function<void(QPointF)>& listener, const QMouseEvent& event);
 
-    std::shared_ptr<ControlView> m_view;
+    std::shared_ptr<ControlsView> m_view;
     bool m_isUpdatePending = false;
     bool m_isDragging = false;
     bool m_isComposited = true;

@@ -31,7 +31,7 @@ OverlayContainerView::OverlayContainerView(AppSettings& appSettings)
     m_subscriptions.push_back(m_appSettings.objectWillChange.sink([this] {
         setNeedsUpdate();
         if (m_toolbar) {
-            m_toolbar->needsUpdate.send();
+            m_toolbar->objectWillChange.send();
         }
     }));
     m_subscriptions.push_back(m_drawingState.objectWillChange.sink([this] {

@@ -3,7 +3,7 @@
 #include "foundation/Binding.h"
 #include "foundation/Color.h"
 #include "foundation/Geometry.h"
-#include "platform/ControlView.h"
+#include "platform/ControlsView.h"
 #include "platform/Damage.h"
 #include "platform/GraphicsContext.h"
 #include "platform/StampedPicture.h"

@@ -2,12 +2,10 @@
 
 #include "foundation/Color.h"
 #include "foundation/Geometry.h"
-#include "platform/ContentView.h"
-#include "platform/ControlsView.h"
+#include "platform/HostingView.h"
 #include "platform/WindowStyle.h"
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -17,26 +15,6 @@ namespace quillon {
 
 /// Posted on the notification centre when a window closes, with the window as the object.
 inline constexpr std::string_view NSWindowWillCloseNotification = "NSWindowWillCloseNotification";
-
-/// A view that hosts a root view, its type erased, and gives it to a window as its content.
-struct HostingView {
-    explicit HostingView(std::unique_ptr<ContentView> root)
-        : rootView(std::move(root)) {}
-
-    /// Puts another root view in the place of the present one, on the screen as well.
-    void setRootView(std::unique_ptr<ContentView> root) {
-        rootView = std::move(root);
-        if (onRootViewChange) {
-            onRootViewChange();
-        }
-    }
-
-    std::unique_ptr<ContentView> rootView;
-    /// How the host that shows the view hears of another root view.
-    std::function<void()> onRootViewChange;
-    CGRect frame;
-    std::uint32_t autoresizingMask = 0;
-};
 
 class Window;
 

@@ -36,7 +36,7 @@ struct ToolbarItem {
 /// A reset is to the page on show as if it came on screen anew: there the store wins over the
 /// managers, so that its switches show their defaults too and what they switch goes off; a
 /// recording ends. A halo, spotlight or lens whose tab is not on show runs on until it is.
-class SettingsView : public ControlsView, public ObservableObject {
+class SettingsView : public ControlsView {
 public:
     static constexpr CGSize minimumContentSize{500, 400};
     static constexpr CGFloat contentPadding = 20;

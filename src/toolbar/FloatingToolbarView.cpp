@@ -49,13 +49,13 @@ void FloatingToolbarView::setHistory(bool canUndo, bool canRedo) {
     if (canUndo != m_canUndo || canRedo != m_canRedo) {
         m_canUndo = canUndo;
         m_canRedo = canRedo;
-        needsUpdate.send();
+        objectWillChange.send();
     }
 }
 
 void FloatingToolbarView::setShowColorPicker(bool shows) {
     if (std::exchange(m_showColorPicker, shows) != shows) {
-        needsUpdate.send();
+        objectWillChange.send();
     }
 }
 
@@ -74,7 +74,7 @@ PaletteControl FloatingToolbarView::control(ToolbarItem item, ToolbarButton butt
     // The key is kept as it is now: the tool may change while the pointer rests on its button.
     const auto onHover = [this, item = std::move(item)](bool isInside) {
         m_hoverItem = isInside ? std::optional(item) : std::nullopt;
-        needsUpdate.send();
+        objectWillChange.send();
     };
     return {.button = std::move(button), .onHover = onHover};
 }

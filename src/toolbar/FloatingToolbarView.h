@@ -2,7 +2,7 @@
 
 #include "foundation/Binding.h"
 #include "model/DrawingTool.h"
-#include "platform/ControlView.h"
+#include "platform/ControlsView.h"
 #include "toolbar/ColorPickerView.h"
 #include "toolbar/PaletteRow.h"
 
@@ -20,7 +20,7 @@ namespace quillon {
 ///
 /// Its place, and the drag by its body, are the affair of the view on which it stands. Its private
 /// states live as long as it does and start anew with the next palette.
-class FloatingToolbarView : public ControlView {
+class FloatingToolbarView : public ControlsView {
 public:
     /// A control under the pointer.
     class ToolbarItem {

@@ -76,7 +76,7 @@ TEST_F(OverlayToolbar, what_it_changes_are_the_settings) {
 TEST_F(OverlayToolbar, it_is_told_when_a_setting_changes) {
     annotate();
     int changes = 0;
-    const auto subscription = overlay.toolbar()->needsUpdate.sink([&] { ++changes; });
+    const auto subscription = overlay.toolbar()->objectWillChange.sink([&] { ++changes; });
     settings().lineWidth = 9.0;
     EXPECT_GT(changes, 0);
 }

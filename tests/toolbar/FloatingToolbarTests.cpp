@@ -214,7 +214,7 @@ TEST_F(FloatingToolbar, redo_without_history_is_dim_and_dead_and_shows_no_hover)
 
 TEST_F(FloatingToolbar, undo_and_redo_come_alive_with_their_history) {
     int updates = 0;
-    const auto subscription = toolbar.needsUpdate.sink([&] { ++updates; });
+    const auto subscription = toolbar.objectWillChange.sink([&] { ++updates; });
     toolbar.setHistory(true, false);
     EXPECT_FALSE(undoControl().isDisabled);
     EXPECT_TRUE(redoControl().isDisabled);

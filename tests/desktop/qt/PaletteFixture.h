@@ -32,7 +32,7 @@ protected:
     }
     /// Tells of a change, as the settings would, and lets the widgets read the description anew.
     void settle() {
-        view->needsUpdate.send();
+        view->objectWillChange.send();
         QCoreApplication::sendPostedEvents();
         QCoreApplication::processEvents();
     }
