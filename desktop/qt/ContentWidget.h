@@ -4,7 +4,7 @@
 #include "desktop/qt/DirectPainting.h"
 #include "desktop/qt/InkMask.h"
 #include "desktop/qt/StampedContent.h"
-#include "platform/Window.h"
+#include "platform/HostingView.h"
 
 #include <QColor>
 #include <QElapsedTimer>

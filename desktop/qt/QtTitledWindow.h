@@ -2,6 +2,7 @@
 
 #include "platform/Application.h"
 #include "platform/Window.h"
+#include "platform/WindowBackend.h"
 
 #include <QWidget>
 

@@ -7,6 +7,7 @@
 #include "desktop/x11/KeyboardFocus.h"
 #include "foundation/Cancellable.h"
 #include "platform/Window.h"
+#include "platform/WindowBackend.h"
 
 #include <xcb/xcb.h>
 

@@ -4,6 +4,7 @@
 #include "desktop/qt/QtWindow.h"
 #include "desktop/x11/CompositorWatch.h"
 #include "platform/Window.h"
+#include "platform/WindowBackend.h"
 
 #include <set>
 #include <utility>

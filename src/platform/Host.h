@@ -11,7 +11,7 @@
 #include "platform/Screens.h"
 #include "platform/StatusBar.h"
 #include "platform/UserDefaults.h"
-#include "platform/Window.h"
+#include "platform/WindowBackend.h"
 #include "platform/Workspace.h"
 
 #include <functional>

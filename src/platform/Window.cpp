@@ -1,6 +1,7 @@
 #include "platform/Window.h"
 
 #include "platform/Host.h"
+#include "platform/WindowBackend.h"
 
 #include <utility>
 
