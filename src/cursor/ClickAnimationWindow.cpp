@@ -1,7 +1,7 @@
 #include "cursor/ClickAnimationWindow.h"
 
 #include "cursor/ClickAnimationView.h"
-#include "cursor/CursorWindow.h"
+#include "platform/OverlayStyle.h"
 
 #include <memory>
 
@@ -13,7 +13,9 @@ ClickAnimationWindow::ClickAnimationWindow(CGPoint location, const Color& color,
              WindowStyleMask::borderless, BackingStoreType::buffered, /*defersCreation=*/false)
     , m_animationType(type)
     , m_isRightClick(isRightClick) {
-    makeCursorWindow(*this);
+    applyOverlayStyle(*this);
+    // The manager owns its windows, also closed ones.
+    setReleasedWhenClosed(false);
     setContentView(std::make_shared<HostingView>(
         std::make_unique<ClickAnimationView>(color, size, type, isRightClick)));
 }

@@ -1,7 +1,7 @@
 #include "cursor/HaloWindow.h"
 
-#include "cursor/CursorWindow.h"
 #include "cursor/HaloView.h"
+#include "platform/OverlayStyle.h"
 
 #include <memory>
 
@@ -16,7 +16,9 @@ constexpr CGFloat kSize = 40;
 HaloWindow::HaloWindow()
     : Window({0, 0, kSize, kSize}, WindowStyleMask::borderless, BackingStoreType::buffered,
              /*defersCreation=*/false) {
-    makeCursorWindow(*this);
+    applyOverlayStyle(*this);
+    // The manager owns its windows, also closed ones.
+    setReleasedWhenClosed(false);
     setContentView(std::make_shared<HostingView>(
         std::make_unique<HaloView>(HaloShape::ring, Color::cyan, kSize)));
 }

@@ -4,6 +4,7 @@
 #include "model/AppSettings.h"
 #include "model/NotificationNames.h"
 #include "platform/Host.h"
+#include "platform/OverlayStyle.h"
 
 #include <string>
 
@@ -34,14 +35,7 @@ OverlayWindow::OverlayWindow(const CGRect& contentRect)
 
 void OverlayWindow::setupWindow() {
     setIdentifier(std::string(overlayWindowIdentifier));
-    setOpaque(false);
-    setBackgroundColor(Color::clear);
-    setLevel(NSFloatingWindowLevel);
-    setCollectionBehavior(NSWindowCollectionBehavior::canJoinAllSpaces |
-                          NSWindowCollectionBehavior::fullScreenAuxiliary |
-                          NSWindowCollectionBehavior::ignoresCycle);
-    setIgnoresMouseEvents(true);
-    setHasShadow(false);
+    applyOverlayStyle(*this);
     setReleasedWhenClosed(false);
     m_screenObserver = Host::current().notificationCenter().addObserver(
         NSApplicationDidChangeScreenParametersNotification,

@@ -1,6 +1,7 @@
 #include "spotlight/SpotlightWindow.h"
 
 #include "platform/Host.h"
+#include "platform/OverlayStyle.h"
 #include "spotlight/SpotlightView.h"
 
 #include <memory>
@@ -10,14 +11,7 @@ namespace quillon {
 SpotlightWindow::SpotlightWindow(const CGRect& frame)
     : Window(frame, WindowStyleMask::borderless, BackingStoreType::buffered,
              /*defersCreation=*/false) {
-    setOpaque(false);
-    setBackgroundColor(Color::clear);
-    setLevel(NSFloatingWindowLevel);
-    setCollectionBehavior(NSWindowCollectionBehavior::canJoinAllSpaces |
-                          NSWindowCollectionBehavior::fullScreenAuxiliary |
-                          NSWindowCollectionBehavior::ignoresCycle);
-    setIgnoresMouseEvents(true);
-    setHasShadow(false);
+    applyOverlayStyle(*this);
     const CGPoint cursor = Host::current().eventMonitors().mouseLocation();
     setContentView(std::make_shared<HostingView>(std::make_unique<SpotlightView>(
         SpotlightView::Value{{cursor.x - frame.minX(), frame.maxY() - cursor.y}, 150, 0.7})));

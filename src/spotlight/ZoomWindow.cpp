@@ -1,6 +1,7 @@
 #include "spotlight/ZoomWindow.h"
 
 #include "model/AppSettings.h"
+#include "platform/OverlayStyle.h"
 #include "spotlight/ZoomView.h"
 
 #include <memory>
@@ -11,13 +12,10 @@ ZoomWindow::ZoomWindow(const CGRect& frame, CGFloat magnification)
     : Window(frame, WindowStyleMask::borderless, BackingStoreType::buffered,
              /*defersCreation=*/false)
     , m_magnification(magnification) {
+    applyOverlayStyle(*this);
+    // The lens alone is solid.
     setOpaque(true);
     setBackgroundColor(Color::black);
-    setLevel(NSFloatingWindowLevel);
-    setCollectionBehavior(NSWindowCollectionBehavior::canJoinAllSpaces |
-                          NSWindowCollectionBehavior::fullScreenAuxiliary |
-                          NSWindowCollectionBehavior::ignoresCycle);
-    setIgnoresMouseEvents(true);
     setHasShadow(true);
     setContentView(std::make_shared<HostingView>(std::make_unique<ZoomView>(
         ZoomView::Value{magnification, std::nullopt, AppSettings::shared().showZoomCrosshair})));

@@ -1,8 +1,10 @@
-#include "cursor/CursorWindow.h"
+#include "platform/OverlayStyle.h"
+
+#include "platform/Window.h"
 
 namespace quillon {
 
-void makeCursorWindow(Window& window) {
+void applyOverlayStyle(Window& window) {
     window.setOpaque(false);
     window.setBackgroundColor(Color::clear);
     window.setLevel(NSFloatingWindowLevel);
@@ -11,8 +13,6 @@ void makeCursorWindow(Window& window) {
                                  NSWindowCollectionBehavior::ignoresCycle);
     window.setIgnoresMouseEvents(true);
     window.setHasShadow(false);
-    // The manager owns its windows, also closed ones.
-    window.setReleasedWhenClosed(false);
 }
 
 } // namespace quillon
