@@ -2,7 +2,6 @@
 
 #include "model/AppSettings.h"
 #include "platform/Host.h"
-#include "spotlight/SpotlightView.h"
 
 namespace quillon {
 
@@ -88,18 +87,9 @@ void SpotlightManager::stopSpotlight() {
 }
 
 void SpotlightManager::updateSpotlightAppearance() {
-    if (!m_spotlightWindow || !m_spotlightWindow->contentView()) {
-        return;
+    if (m_spotlightWindow) {
+        m_spotlightWindow->update(m_currentCursorLocation, spotlightRadius, spotlightIntensity);
     }
-    auto* view = dynamic_cast<SpotlightView*>(m_spotlightWindow->contentView()->rootView.get());
-    if (!view) {
-        return;
-    }
-    const CGRect& frame = m_spotlightWindow->frame();
-    view->setValue(
-        {{m_currentCursorLocation.x - frame.minX(), frame.maxY() - m_currentCursorLocation.y},
-         spotlightRadius,
-         spotlightIntensity});
 }
 
 // The pointer.

@@ -13,8 +13,20 @@ SpotlightWindow::SpotlightWindow(const CGRect& frame)
              /*defersCreation=*/false) {
     applyOverlayStyle(*this);
     const CGPoint cursor = Host::current().eventMonitors().mouseLocation();
-    setContentView(std::make_shared<HostingView>(std::make_unique<SpotlightView>(
-        SpotlightView::Value{{cursor.x - frame.minX(), frame.maxY() - cursor.y}, 150, 0.7})));
+    setContentView(std::make_shared<HostingView>(
+        std::make_unique<SpotlightView>(SpotlightView::Value{inView(cursor), 150, 0.7})));
+}
+
+void SpotlightWindow::update(CGPoint cursor, CGFloat radius, double intensity) {
+    auto* view =
+        contentView() ? dynamic_cast<SpotlightView*>(contentView()->rootView.get()) : nullptr;
+    if (view) {
+        view->setValue({inView(cursor), radius, intensity});
+    }
+}
+
+CGPoint SpotlightWindow::inView(CGPoint place) const {
+    return {place.x - frame().minX(), frame().maxY() - place.y};
 }
 
 } // namespace quillon
