@@ -3,8 +3,6 @@
 #include "cursor/CenteredFrame.h"
 #include "cursor/RhombusShape.h"
 
-#include <utility>
-
 namespace quillon {
 
 namespace {
@@ -19,12 +17,7 @@ constexpr CGFloat kGlowRadius = 4;
 
 void HaloView::layout(CGSize size, CGFloat /*scale*/) {
     m_bounds = {0, 0, size.width, size.height};
-    m_damage.add(m_bounds);
-    setNeedsUpdate();
-}
-
-Damage HaloView::takeDamage() {
-    return std::exchange(m_damage, {});
+    setNeedsDisplay(m_bounds);
 }
 
 void HaloView::paint(GraphicsContext& context, const CGRect& /*rect*/) {

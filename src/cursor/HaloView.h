@@ -21,7 +21,6 @@ public:
     CGFloat size() const { return m_size; }
 
     void layout(CGSize size, CGFloat scale) override;
-    Damage takeDamage() override;
     void paint(GraphicsContext& context, const CGRect& rect) override;
 
 private:
@@ -31,7 +30,6 @@ private:
     Color m_color;
     CGFloat m_size;
     CGRect m_bounds;
-    Damage m_damage;
 };
 
 } // namespace quillon

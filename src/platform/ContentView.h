@@ -63,8 +63,9 @@ public:
     virtual void mouseDragged(CGPoint /*location*/) {}
     virtual void mouseUp(CGPoint /*location*/) {}
 
-    /// Where the picture has changed since the last call.
-    virtual Damage takeDamage() = 0;
+    /// Where the picture has changed since the last call: what `setNeedsDisplay` was told, unless
+    /// the view finds it out only now.
+    virtual Damage takeDamage() { return std::exchange(m_damage, {}); }
     /// Paints what stands in `rect`, over full transparency. `rect` is made of whole device pixels
     /// and clips the context.
     virtual void paint(GraphicsContext& context, const CGRect& rect) = 0;
@@ -82,6 +83,12 @@ public:
     virtual void controlsMouseUp(CGPoint /*location*/) {}
 
 protected:
+    /// The picture has changed in that rectangle, or in that damage.
+    template <typename Area>
+    void setNeedsDisplay(const Area& area) {
+        m_damage.add(area);
+        setNeedsUpdate();
+    }
     void setNeedsUpdate() const {
         if (m_updateRequest) {
             m_updateRequest();
@@ -90,6 +97,7 @@ protected:
 
 private:
     std::function<void()> m_updateRequest;
+    Damage m_damage;
 };
 
 } // namespace quillon

@@ -28,24 +28,18 @@ void SpotlightView::setValue(const Value& value) {
     if (value == m_value) {
         return;
     }
-    if (value.intensity == m_value.intensity) {
-        m_damage.add(differenceOfCircles(circleOf(m_value), circleOf(value)));
+    const Value before = std::exchange(m_value, value);
+    if (value.intensity == before.intensity) {
+        setNeedsDisplay(differenceOfCircles(circleOf(before), circleOf(value)));
     } else {
-        m_damage.add(bounds());
+        setNeedsDisplay(bounds());
     }
-    m_value = value;
-    setNeedsUpdate();
 }
 
 void SpotlightView::layout(CGSize size, CGFloat scale) {
     m_scale = scale;
     m_size = size;
-    m_damage.add(bounds());
-    setNeedsUpdate();
-}
-
-Damage SpotlightView::takeDamage() {
-    return std::exchange(m_damage, {});
+    setNeedsDisplay(bounds());
 }
 
 void SpotlightView::paint(GraphicsContext& context, const CGRect& rect) {

@@ -30,7 +30,6 @@ public:
     void setValue(const Value& value);
 
     void layout(CGSize size, CGFloat scale) override;
-    Damage takeDamage() override;
     void paint(GraphicsContext& context, const CGRect& rect) override;
     std::optional<StampedPicture> stampedPicture() override;
 
@@ -40,7 +39,6 @@ private:
     Value m_value;
     CGSize m_size;
     CGFloat m_scale = 1;
-    Damage m_damage;
     DimmedPicture m_picture;
 };
 

@@ -22,21 +22,12 @@ void ZoomView::setValue(Value value) {
         return;
     }
     m_value = std::move(value);
-    damageAll();
+    setNeedsDisplay(bounds());
 }
 
 void ZoomView::layout(CGSize size, CGFloat /*scale*/) {
     m_size = size;
-    damageAll();
-}
-
-void ZoomView::damageAll() {
-    m_damage.add(bounds());
-    setNeedsUpdate();
-}
-
-Damage ZoomView::takeDamage() {
-    return std::exchange(m_damage, {});
+    setNeedsDisplay(bounds());
 }
 
 void ZoomView::paint(GraphicsContext& context, const CGRect& /*rect*/) {

@@ -36,18 +36,15 @@ public:
     void setValue(Value value);
 
     void layout(CGSize size, CGFloat scale) override;
-    Damage takeDamage() override;
     void paint(GraphicsContext& context, const CGRect& rect) override;
 
 private:
     void paintPicture(GraphicsContext& context) const;
     void paintPlaceholder(GraphicsContext& context) const;
     CGRect bounds() const { return {0, 0, m_size.width, m_size.height}; }
-    void damageAll();
 
     Value m_value;
     CGSize m_size;
-    Damage m_damage;
 };
 
 } // namespace quillon
