@@ -71,7 +71,6 @@ public:
     bool isEditingText() const { return m_isEditingText; }
     bool isTextFieldFocused() const { return m_isTextFieldFocused; }
 
-    void setTextContent(std::string content) { m_textContent = std::move(content); }
     /// The keyboard came to the field or left it.
     void setTextFieldFocused(bool focused);
     void commitText();
