@@ -38,8 +38,7 @@ void HotkeySettingsView::saveShortcut(std::uint32_t keyCode, std::uint32_t modif
                entry.second.modifiers == modifiers;
     });
     if (isTaken) {
-        m_isEditingHotkey = std::nullopt;
-        m_hotkeyManager.registerHotkeys(m_appSettings.hotkeys);
+        cancelRecording();
         m_alertMessage = kConflict;
         return;
     }
