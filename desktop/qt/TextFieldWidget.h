@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/ContentView.h"
+#include "platform/TextField.h"
 
 #include <QLineEdit>
 

@@ -5,7 +5,7 @@
 #include "foundation/DragGesture.h"
 #include "foundation/Lifetime.h"
 #include "model/DrawingStroke.h"
-#include "platform/ContentView.h"
+#include "platform/TextField.h"
 
 #include <functional>
 #include <optional>
