@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Bitmap.h"
+#include "platform/Graphics.h"
 
 namespace quillon::desktop {
 

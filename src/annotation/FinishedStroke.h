@@ -2,7 +2,7 @@
 
 #include "annotation/SegmentIndex.h"
 #include "model/DrawingStroke.h"
-#include "platform/Bitmap.h"
+#include "platform/Graphics.h"
 
 #include <cstdint>
 #include <memory>

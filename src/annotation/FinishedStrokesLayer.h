@@ -3,8 +3,8 @@
 #include "annotation/DirtyCells.h"
 #include "annotation/StrokeList.h"
 #include "annotation/StrokeRenderer.h"
-#include "platform/Bitmap.h"
 #include "platform/Damage.h"
+#include "platform/Graphics.h"
 
 #include <memory>
 

@@ -3,8 +3,8 @@
 #include "annotation/SegmentIndex.h"
 #include "foundation/UUID.h"
 #include "model/DrawingStroke.h"
-#include "platform/Bitmap.h"
 #include "platform/Damage.h"
+#include "platform/Graphics.h"
 
 #include <cstddef>
 #include <memory>

@@ -4,8 +4,8 @@
 #include "annotation/SegmentIndex.h"
 #include "annotation/StrokeList.h"
 #include "model/DrawingStroke.h"
-#include "platform/Bitmap.h"
 #include "platform/Damage.h"
+#include "platform/Graphics.h"
 #include "platform/GraphicsContext.h"
 
 #include <cstddef>

@@ -3,7 +3,6 @@
 #include "foundation/Geometry.h"
 #include "platform/GraphicsContext.h"
 
-#include <memory>
 #include <span>
 #include <utility>
 
@@ -35,16 +34,6 @@ public:
 protected:
     virtual GraphicsContext& beginPainting(std::span<const CGRect> clip) = 0;
     virtual void endPainting() = 0;
-};
-
-/// What painting needs besides a context.
-class Graphics {
-public:
-    virtual ~Graphics() = default;
-
-    virtual std::unique_ptr<Bitmap> makeBitmap(CGSize size, CGFloat scale) = 0;
-    /// Where the ink of a text falls, with its top leading corner at the origin. In points.
-    virtual CGRect inkBounds(const Text& text) = 0;
 };
 
 } // namespace quillon

@@ -2,8 +2,8 @@
 
 #include "foundation/NotificationCenter.h"
 #include "platform/Application.h"
-#include "platform/Bitmap.h"
 #include "platform/EventMonitors.h"
+#include "platform/Graphics.h"
 #include "platform/HotKeys.h"
 #include "platform/Image.h"
 #include "platform/MainQueue.h"

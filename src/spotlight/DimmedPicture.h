@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Graphics.h"
 #include "platform/StampedPicture.h"
 #include "spotlight/Circle.h"
 

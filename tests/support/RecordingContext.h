@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Bitmap.h"
 #include "platform/CGImage.h"
+#include "platform/Graphics.h"
 #include "platform/GraphicsContext.h"
 
 #include <memory>
