@@ -22,9 +22,8 @@ std::string colorHex(const Color& color);
 ///
 /// The colour is held twice: as the shared colour, and as the four numbers to which the controls
 /// bind, since a grey has no hue to find again. The two are kept in step:
-/// 1. when the view appears, the numbers are taken from the colour; if that changed them, the
-/// colour
-///    is written back as its equal in these numbers;
+/// 1. when the view appears, the numbers are taken from the colour; if that changed them, it is
+///    written back as its equal in these numbers;
 /// 2. when a number changes, the colour is made of the four;
 /// 3. when somebody else changes the colour, the numbers are taken from it;
 /// 4. `isUpdatingFromColor` is set during 2 and 3, so that neither sets off the other.
