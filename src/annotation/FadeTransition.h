@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/Easing.h"
+#include "foundation/AnimatedValue.h"
 
 namespace quillon {
 
@@ -11,32 +11,22 @@ public:
     FadeTransition(double duration, bool isVisible)
         : m_duration(duration)
         , m_isVisible(isVisible)
-        , m_from(isVisible ? 1 : 0) {}
+        , m_opacity(isVisible ? 1 : 0) {}
 
     void setVisible(bool isVisible, double now) {
         if (isVisible != m_isVisible) {
-            m_from = opacity(now);
             m_isVisible = isVisible;
-            m_start = now;
+            m_opacity.animate(isVisible ? 1 : 0, TimingCurve::easeInOut, m_duration, now);
         }
     }
 
-    double opacity(double now) const {
-        const double target = m_isVisible ? 1 : 0;
-        return m_from + (target - m_from) * TimingCurve::easeInOut.progressAt(progress(now));
-    }
-
-    bool isRunning(double now) const {
-        return m_from != (m_isVisible ? 1 : 0) && progress(now) < 1;
-    }
+    double opacity(double now) const { return m_opacity.at(now); }
+    bool isRunning(double now) const { return m_opacity.isRunning(now); }
 
 private:
-    double progress(double now) const { return (now - m_start) / m_duration; }
-
     double m_duration;
     bool m_isVisible;
-    double m_from;
-    double m_start = 0;
+    AnimatedValue m_opacity;
 };
 
 } // namespace quillon
