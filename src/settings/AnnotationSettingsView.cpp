@@ -1,6 +1,6 @@
 #include "settings/AnnotationSettingsView.h"
 
-#include "foundation/Int.h"
+#include "foundation/NumberText.h"
 
 namespace quillon {
 
@@ -26,7 +26,6 @@ Binding<bool> whiteboardSwitch(AppSettings& settings) {
 
 PageContent AnnotationSettingsView::content() {
     auto& settings = m_appSettings;
-    const auto inPoints = [](double width) { return std::to_string(integerPart(width)) + "pt"; };
     const auto timerName = [](AutoEraseTimer timer) { return std::string(displayName(timer)); };
     return Form{
         "Annotation Settings",
@@ -34,8 +33,8 @@ PageContent AnnotationSettingsView::content() {
             {"Drawing Tools",
              {
                  SwatchRow{"Default Color", {settings.selectedColor.binding()}},
-                 SliderRow{"Line Width", settings.lineWidth.binding(), 1, 30, 1, inPoints, 200, 40,
-                           SliderEnds{"lineweight"}},
+                 SliderRow{"Line Width", settings.lineWidth.binding(), 1, 30, 1, pointsText, 200,
+                           40, SliderEnds{"lineweight"}},
                  PickerRow::of<AutoEraseTimer>("Auto-Erase", settings.autoEraseTimer.binding(),
                                                timerName),
              }},

@@ -1,6 +1,6 @@
 #include "settings/CursorSettingsView.h"
 
-#include "foundation/Int.h"
+#include "foundation/NumberText.h"
 #include "settings/FollowingSwitch.h"
 
 namespace quillon {
@@ -19,7 +19,6 @@ std::string animationName(ClickAnimationType type) {
 PageContent CursorSettingsView::content() {
     auto& settings = m_appSettings;
     const auto shapeName = [](HaloShape shape) { return std::string(displayName(shape)); };
-    const auto number = [](double value) { return std::to_string(integerPart(value)); };
     return Form{
         "Cursor Halo Settings",
         {
@@ -29,7 +28,7 @@ PageContent CursorSettingsView::content() {
                            ToggleStyle::switchStyle},
                  PickerRow::of<HaloShape>("Halo Shape", settings.haloShape.binding(), shapeName),
                  SliderRow{
-                     "Halo Size", settings.haloSize.binding(), 10, 100, 1, number, 150, 40, {}},
+                     "Halo Size", settings.haloSize.binding(), 10, 100, 1, numberText, 150, 40, {}},
                  ColorPickerRow{"Halo Color", settings.haloColor.binding()},
              }},
             {"Click Animation",

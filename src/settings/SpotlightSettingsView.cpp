@@ -1,6 +1,6 @@
 #include "settings/SpotlightSettingsView.h"
 
-#include "foundation/Int.h"
+#include "foundation/NumberText.h"
 #include "settings/FollowingSwitch.h"
 
 namespace quillon {
@@ -8,16 +8,6 @@ namespace quillon {
 namespace {
 
 constexpr CGFloat kSliderWidth = 150;
-
-std::string number(double value) {
-    return std::to_string(integerPart(value));
-}
-std::string percent(double value) {
-    return number(value * 100) + "%";
-}
-std::string inPoints(double value) {
-    return number(value) + "pt";
-}
 
 } // namespace
 
@@ -37,7 +27,7 @@ FormSection SpotlightSettingsView::spotlight() {
                       0.1,
                       0.95,
                       0.05,
-                      percent,
+                      percentText,
                       kSliderWidth,
                       50,
                       {}},
@@ -46,7 +36,7 @@ FormSection SpotlightSettingsView::spotlight() {
                       30,
                       500,
                       10,
-                      number,
+                      numberText,
                       kSliderWidth,
                       50,
                       {}},
@@ -71,7 +61,7 @@ FormSection SpotlightSettingsView::zoomLens() {
                       100,
                       500,
                       10,
-                      inPoints,
+                      pointsText,
                       kSliderWidth,
                       60,
                       {}},
@@ -80,7 +70,7 @@ FormSection SpotlightSettingsView::zoomLens() {
                       0,
                       200,
                       5,
-                      inPoints,
+                      pointsText,
                       kSliderWidth,
                       50,
                       {}},
@@ -89,7 +79,7 @@ FormSection SpotlightSettingsView::zoomLens() {
                       0,
                       200,
                       5,
-                      inPoints,
+                      pointsText,
                       kSliderWidth,
                       50,
                       {}},

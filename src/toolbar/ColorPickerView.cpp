@@ -1,6 +1,7 @@
 #include "toolbar/ColorPickerView.h"
 
 #include "foundation/Int.h"
+#include "foundation/NumberText.h"
 
 #include <array>
 #include <cstdint>
@@ -10,10 +11,6 @@
 namespace quillon {
 
 namespace {
-
-std::string percentage(double value) {
-    return std::to_string(integerPart(value * 100)) + "%";
-}
 
 /// As the format sees an integer: its lower 32 bits.
 std::uint32_t hexComponent(double component) {
@@ -95,14 +92,14 @@ Binding<double> ColorPickerView::binding(double Numbers::*number) {
 ColorPickerView::Channel ColorPickerView::brightnessChannel() {
     return {.title = "Brightness",
             .value = binding(&Numbers::brightness),
-            .percentage = percentage(m_numbers.brightness),
+            .percentage = percentText(m_numbers.brightness),
             .accent = Color::fromHSB(m_numbers.hue, m_numbers.saturation, m_numbers.brightness)};
 }
 
 ColorPickerView::Channel ColorPickerView::opacityChannel() {
     return {.title = "Opacity",
             .value = binding(&Numbers::alpha),
-            .percentage = percentage(m_numbers.alpha),
+            .percentage = percentText(m_numbers.alpha),
             .accent = std::nullopt};
 }
 

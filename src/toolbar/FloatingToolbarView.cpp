@@ -1,6 +1,6 @@
 #include "toolbar/FloatingToolbarView.h"
 
-#include "foundation/Int.h"
+#include "foundation/NumberText.h"
 
 #include <algorithm>
 #include <utility>
@@ -119,16 +119,13 @@ SwatchSection FloatingToolbarView::swatchSection(std::string title,
     return section;
 }
 
-std::string FloatingToolbarView::lineWidthText() const {
-    return std::to_string(integerPart(m_lineWidth.get())) + "pt";
-}
-
 PaletteControl FloatingToolbarView::lineWidthMenu() {
+    const std::string widthText = pointsText(m_lineWidth.get());
     auto result = control(ToolbarItem::action("width"),
-                          {.icon = "lineweight", .label = lineWidthText(), .action = [this] {
+                          {.icon = "lineweight", .label = widthText, .action = [this] {
                                m_showLineWidthSlider = !m_showLineWidthSlider;
                            }});
-    LineWidthMenu menu{.heading = "Line Width: " + lineWidthText(),
+    LineWidthMenu menu{.heading = "Line Width: " + widthText,
                        .slider = {.value = m_lineWidth,
                                   .minimum = 1,
                                   .maximum = 30,

@@ -76,7 +76,6 @@ private:
 
     PaletteControl control(ToolbarItem item, ToolbarButton button);
     SwatchSection swatchSection(std::string title, const std::vector<Color>& colors) const;
-    std::string lineWidthText() const;
 
     Binding<DrawingTool> m_selectedTool;
     Binding<Color> m_selectedColor;
