@@ -1,5 +1,7 @@
 #include "model/HotkeyConfig.h"
 
+#include "platform/CarbonModifiers.h"
+
 #include <optional>
 #include <utility>
 
@@ -7,16 +9,7 @@ namespace quillon {
 
 namespace {
 
-constexpr std::uint32_t kCommandShift = 768;
-
-/// Legacy bit and present bit.
-constexpr std::pair<std::uint32_t, std::uint32_t> kLegacyModifiers[] = {
-    {0x100000, 0x100},
-    {0x20000, 0x200},
-    {0x80000, 0x800},
-    {0x40000, 0x1000},
-};
-constexpr std::uint32_t kLegacyMask = 0x1E0000;
+constexpr std::uint32_t kCommandShift = cmdKey | shiftKey;
 
 /// The default key that an action had in an earlier version.
 std::optional<std::uint32_t> oldDefaultKeyCode(HotkeyAction action) {
@@ -51,14 +44,8 @@ const HotkeyMap& HotkeyConfig::defaults() {
 }
 
 std::uint32_t HotkeyConfig::migrateLegacyModifiers(std::uint32_t value) {
-    if ((value & kLegacyMask) == 0) {
-        return value;
-    }
-    std::uint32_t result = 0;
-    for (const auto& [legacy, present] : kLegacyModifiers) {
-        result |= (value & legacy) != 0 ? present : 0;
-    }
-    return result;
+    const std::uint32_t translated = carbonModifiers(value);
+    return translated == 0 ? value : translated;
 }
 
 HotkeyConfig HotkeyConfig::migrateLegacyConfig(const HotkeyConfig& config, HotkeyAction action) {

@@ -1,7 +1,6 @@
 #include "shortcuts/HotkeyShortcutFormatter.h"
 
-#include "platform/HotKeys.h"
-#include "platform/KeyEvent.h"
+#include "platform/CarbonModifiers.h"
 
 #include <algorithm>
 #include <iterator>
@@ -22,18 +21,6 @@ constexpr ModifierName kModifierNames[] = {
     {shiftKey, "⇧"},
     {optionKey, "⌥"},
     {controlKey, "⌃"},
-};
-
-struct ModifierFlag {
-    std::uint64_t flag;
-    std::uint32_t bit;
-};
-
-constexpr ModifierFlag kModifierFlags[] = {
-    {NSEventModifierFlags::command, cmdKey},
-    {NSEventModifierFlags::shift, shiftKey},
-    {NSEventModifierFlags::option, optionKey},
-    {NSEventModifierFlags::control, controlKey},
 };
 
 struct KeyName {
@@ -59,12 +46,7 @@ std::string HotkeyShortcutFormatter::label(const HotkeyConfig& config) {
 }
 
 std::uint32_t HotkeyShortcutFormatter::carbonModifiers(std::uint64_t flags) {
-    const std::uint64_t independent = flags & NSEventModifierFlags::deviceIndependentMask;
-    std::uint32_t mask = 0;
-    for (const auto& [flag, bit] : kModifierFlags) {
-        mask |= (independent & flag) != 0 ? bit : 0;
-    }
-    return mask;
+    return quillon::carbonModifiers(flags & NSEventModifierFlags::deviceIndependentMask);
 }
 
 std::string HotkeyShortcutFormatter::modifierLabel(std::uint32_t mask) {
