@@ -10,6 +10,10 @@ if(QUILLON_SANITIZE)
     target_link_options(quillon_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+# What is tested is compiled as it is shipped, the tests themselves quickly.
+add_library(quillon_test_options INTERFACE)
+target_compile_options(quillon_test_options INTERFACE $<$<CONFIG:Release>:-O1>)
+
 # quillon_layer(NAME SOURCES ... USES ...): one folder of src/ as a static library.
 # A layer links only the layers below it; the include test holds the same rule for the headers.
 function(quillon_layer name)
@@ -26,7 +30,7 @@ endfunction()
 function(quillon_test name)
     cmake_parse_arguments(TEST "" "" "SOURCES;USES" ${ARGN})
     add_executable(${name} ${TEST_SOURCES})
-    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-    target_link_libraries(${name} PRIVATE quillon_options GTest::gtest_main ${TEST_USES})
+    target_link_libraries(${name} PRIVATE
+        quillon_options quillon_test_options quillon_test_support GTest::gtest_main ${TEST_USES})
     gtest_discover_tests(${name} PROPERTIES LABELS core DISCOVERY_TIMEOUT 60)
 endfunction()

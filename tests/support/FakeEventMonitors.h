@@ -2,8 +2,9 @@
 
 #include "platform/EventMonitors.h"
 
+#include <cstdint>
 #include <map>
-#include <utility>
+#include <optional>
 
 namespace quillon::test {
 
@@ -11,28 +12,16 @@ namespace quillon::test {
 class FakeEventMonitors : public EventMonitors {
 public:
     std::optional<EventMonitorToken>
-    addGlobalMonitorForEventsMatchingMask(std::uint64_t mask, GlobalHandler handler) override {
-        return offersGlobalMonitors ? add(globalMonitors, mask, std::move(handler)) : std::nullopt;
-    }
+    addGlobalMonitorForEventsMatchingMask(std::uint64_t mask, GlobalHandler handler) override;
     std::optional<EventMonitorToken>
-    addLocalMonitorForEventsMatchingMask(std::uint64_t mask, LocalHandler handler) override {
-        return offersLocalMonitors ? add(localMonitors, mask, std::move(handler)) : std::nullopt;
-    }
-    void removeMonitor(EventMonitorToken token) override {
-        removals += static_cast<int>(globalMonitors.erase(token) + localMonitors.erase(token));
-    }
+    addLocalMonitorForEventsMatchingMask(std::uint64_t mask, LocalHandler handler) override;
+    void removeMonitor(EventMonitorToken token) override;
     CGPoint mouseLocation() const override { return location; }
 
     /// An event at `place` that goes to another program.
-    void sendToOthers(NSEventType type, CGPoint place) {
-        location = place;
-        report(globalMonitors, {type});
-    }
+    void sendToOthers(NSEventType type, CGPoint place);
     /// An event at `place` that goes to a window of the program.
-    void sendToOwnWindow(NSEventType type, CGPoint place) {
-        location = place;
-        report(localMonitors, {type});
-    }
+    void sendToOwnWindow(NSEventType type, CGPoint place);
 
     template <typename Handler>
     struct Monitor {
@@ -49,25 +38,6 @@ public:
     std::map<EventMonitorToken, Monitor<LocalHandler>> localMonitors;
 
 private:
-    template <typename Handler>
-    std::optional<EventMonitorToken> add(std::map<EventMonitorToken, Monitor<Handler>>& monitors,
-                                         std::uint64_t mask, Handler handler) {
-        const EventMonitorToken token{++m_lastToken};
-        monitors[token] = {mask, std::move(handler)};
-        return token;
-    }
-
-    template <typename Handler>
-    static void report(const std::map<EventMonitorToken, Monitor<Handler>>& monitors,
-                       const NSEvent& event) {
-        const auto present = monitors;
-        for (const auto& [token, monitor] : present) {
-            if ((monitor.mask & event.mask()) != 0) {
-                monitor.handler(event);
-            }
-        }
-    }
-
     std::uint64_t m_lastToken = 0;
 };
 

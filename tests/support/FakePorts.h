@@ -17,6 +17,13 @@ namespace quillon::test {
 /// A fake for every port, for a host that has yet to be made. A test may put a port of its own in
 /// the place of one of them.
 struct FakePorts {
+    FakePorts();
+    ~FakePorts();
+    FakePorts(const FakePorts&) = delete;
+    FakePorts& operator=(const FakePorts&) = delete;
+
+    Host::Ports ports();
+
     HandTurnedQueue mainQueue;
     FakeDefaults userDefaults;
     FakeApplication application;
@@ -29,11 +36,6 @@ struct FakePorts {
     FakeEventMonitors eventMonitors;
     FakeWorkspace workspace;
     FakeScreenCapture screenCapture;
-
-    Host::Ports ports() {
-        return {mainQueue, userDefaults, application, windows,       screens,   hotKeys,
-                statusBar, images,       graphics,    eventMonitors, workspace, screenCapture};
-    }
 };
 
 } // namespace quillon::test

@@ -38,64 +38,31 @@ struct Drawing {
 /// A context that draws nothing and remembers everything.
 class RecordingContext : public GraphicsContext {
 public:
+    RecordingContext();
+    ~RecordingContext() override;
+
     CGRect clipBounds() const override { return clip; }
     void setBlendMode(BlendMode mode) override { m_states.back().blendMode = mode; }
     void setOpacity(double opacity) override { m_states.back().opacity = opacity; }
 
-    void fill(const Path& path, const Color& color) override {
-        auto& drawing = record(Drawing::Kind::fill);
-        drawing.path = path;
-        drawing.color = color;
-    }
-    void fillEvenOdd(const Path& path, const Color& color) override {
-        auto& drawing = record(Drawing::Kind::fillEvenOdd);
-        drawing.path = path;
-        drawing.color = color;
-    }
-    void stroke(const Path& path, const Color& color, const StrokeStyle& style) override {
-        auto& drawing = record(Drawing::Kind::stroke);
-        drawing.path = path;
-        drawing.color = color;
-        drawing.style = style;
-    }
+    void fill(const Path& path, const Color& color) override;
+    void fillEvenOdd(const Path& path, const Color& color) override;
+    void stroke(const Path& path, const Color& color, const StrokeStyle& style) override;
     void strokeWithShadow(const Path& path, const Color& color, const StrokeStyle& style,
-                          const Shadow& shadow) override {
-        stroke(path, color, style);
-        drawings.back().shadow = shadow;
-    }
-    void drawText(const Text& text, CGPoint at, Anchor anchor) override {
-        auto& drawing = record(Drawing::Kind::text);
-        drawing.text = text;
-        drawing.at = at;
-        drawing.anchor = anchor;
-    }
-    void clear(const CGRect& rect) override { record(Drawing::Kind::clear).rect = rect; }
-    void fillRect(const CGRect& rect, const Color& color) override {
-        auto& drawing = record(Drawing::Kind::fillRect);
-        drawing.rect = rect;
-        drawing.color = color;
-    }
-    void draw(const Bitmap& bitmap, const CGRect& rect) override { draw(bitmap, rect, {}); }
-    void draw(const Bitmap&, const CGRect& rect, CGPoint origin) override {
-        auto& drawing = record(Drawing::Kind::bitmap);
-        drawing.rect = rect;
-        drawing.at = origin;
-    }
-    void draw(const CGImage& image, const CGRect& rect) override {
-        auto& drawing = record(Drawing::Kind::image);
-        drawing.image = image;
-        drawing.rect = rect;
-    }
+                          const Shadow& shadow) override;
+    void drawText(const Text& text, CGPoint at, Anchor anchor) override;
+    void clear(const CGRect& rect) override;
+    void fillRect(const CGRect& rect, const Color& color) override;
+    void draw(const Bitmap& bitmap, const CGRect& rect) override;
+    void draw(const Bitmap&, const CGRect& rect, CGPoint origin) override;
+    void draw(const CGImage& image, const CGRect& rect) override;
 
     CGRect clip{-1e6, -1e6, 2e6, 2e6};
     std::vector<Drawing> drawings;
 
 protected:
-    GraphicsContext& beginLayer() override {
-        m_states.emplace_back();
-        return *this;
-    }
-    void endLayer() override { m_states.pop_back(); }
+    GraphicsContext& beginLayer() override;
+    void endLayer() override;
 
 private:
     struct State {
@@ -103,18 +70,7 @@ private:
         double opacity = 1;
     };
 
-    Drawing& record(Drawing::Kind kind) {
-        auto& drawing = drawings.emplace_back();
-        drawing.kind = kind;
-        drawing.blendMode = m_states.back().blendMode;
-        drawing.opacity = m_states.back().opacity;
-        drawing.depth = static_cast<int>(m_states.size()) - 1;
-        if (m_states.size() > 1) {
-            drawing.receivedWith = m_states[m_states.size() - 2].blendMode;
-            drawing.receivedOpacity = m_states[m_states.size() - 2].opacity;
-        }
-        return drawing;
-    }
+    Drawing& record(Drawing::Kind kind);
 
     std::vector<State> m_states{1};
 };
@@ -147,16 +103,9 @@ public:
         CGFloat m_scale;
     };
 
-    std::unique_ptr<Bitmap> makeBitmap(CGSize size, CGFloat scale) override {
-        auto bitmap = std::make_unique<RecordingBitmap>(size, scale);
-        lastBitmap = bitmap.get();
-        return bitmap;
-    }
+    std::unique_ptr<Bitmap> makeBitmap(CGSize size, CGFloat scale) override;
     /// Half an em for each byte, one em and a quarter high.
-    CGRect inkBounds(const Text& text) override {
-        return {0, 0, 0.5 * text.fontSize * static_cast<CGFloat>(text.string.size()),
-                1.25 * text.fontSize};
-    }
+    CGRect inkBounds(const Text& text) override;
 
     RecordingBitmap* lastBitmap = nullptr;
 };
