@@ -2,6 +2,7 @@
 #include "cursor/HaloWindow.h"
 
 #include "cursor/CursorTest.h"
+#include "support/WindowExpectations.h"
 
 #include <algorithm>
 
@@ -12,16 +13,8 @@ namespace {
 using CursorWindowsTest = CursorTest;
 
 void expectToBeInNobodysWay(const Window& window) {
-    EXPECT_EQ(window.styleMask(), WindowStyleMask::borderless);
-    EXPECT_EQ(window.backingType(), BackingStoreType::buffered);
-    EXPECT_FALSE(window.defersCreation());
-    EXPECT_FALSE(window.isOpaque());
-    EXPECT_EQ(window.backgroundColor(), Color::clear);
-    EXPECT_EQ(window.level(), 3);
-    EXPECT_EQ(window.collectionBehavior(), 0x1U | 0x100U | 0x40U);
+    expectToFloatTransparently(window);
     EXPECT_TRUE(window.ignoresMouseEvents());
-    EXPECT_FALSE(window.hasShadow());
-    EXPECT_FALSE(window.isReleasedWhenClosed());
     EXPECT_FALSE(window.canBecomeKeyWindow());
     EXPECT_FALSE(window.isVisible());
 }

@@ -3,6 +3,7 @@
 #include "annotation/AnnotationCanvas.h"
 #include "model/NotificationNames.h"
 #include "support/FakeHost.h"
+#include "support/WindowExpectations.h"
 
 #include <gtest/gtest.h>
 
@@ -35,15 +36,7 @@ struct OverlayWindowTest : testing::Test {
 TEST_F(OverlayWindowTest, it_is_a_transparent_borderless_window_above_all_others_on_every_space) {
     const OverlayWindow window(someFrame);
     EXPECT_EQ(window.frame(), someFrame);
-    EXPECT_EQ(window.styleMask(), WindowStyleMask::borderless);
-    EXPECT_EQ(window.backingType(), BackingStoreType::buffered);
-    EXPECT_FALSE(window.defersCreation());
-    EXPECT_FALSE(window.isOpaque());
-    EXPECT_EQ(window.backgroundColor(), Color::clear);
-    EXPECT_EQ(window.level(), 3);
-    EXPECT_EQ(window.collectionBehavior(), 0x1U | 0x100U | 0x40U);
-    EXPECT_FALSE(window.hasShadow());
-    EXPECT_FALSE(window.isReleasedWhenClosed());
+    expectToFloatTransparently(window);
 }
 
 TEST_F(OverlayWindowTest, it_ignores_the_mouse_until_annotation_mode_is_set) {
