@@ -1,15 +1,13 @@
-#include "desktop/support/Canvas.h"
 #include "desktop/support/ScreenSize.h"
-#include "desktop/x11/CaptureProgram.h"
-#include "desktop/x11/ServerAlone.h"
+#include "desktop/x11/CaptureTest.h"
 
 #include <gtest/gtest.h>
 
-#include <unistd.h>
-#include <xcb/randr.h>
-
-#include <fstream>
-#include <sstream>
+#include <chrono>
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
 
 namespace quillon::test {
 
@@ -20,36 +18,6 @@ VirtualDesktop::Options without(const std::string& extension) {
     options.withoutExtensions = {extension};
     return options;
 }
-
-/// A desktop with one window on it, and a program that captures.
-struct CaptureTest {
-    explicit CaptureTest(const VirtualDesktop::Options& options = serverAlone)
-        : desktop(options) {}
-
-    /// What the last frame shows there, 0xFFRRGGBB; in pixels from the top left corner.
-    std::uint32_t pixelAt(int x, int y) const {
-        const int height = static_cast<int>(receiver->lastFrame->size().height);
-        const auto rows = receiver->lastFrame->read(
-            {static_cast<CGFloat>(x), static_cast<CGFloat>(height - 1 - y), 1, 1});
-        return rows ? rows->pixels.at(0) : 0;
-    }
-
-    /// The frames of one second in which the window changes 240 times.
-    int framesOfABusySecond() {
-        const int before = receiver->frames;
-        for (std::uint32_t change = 1; change <= 240; ++change) {
-            canvas.fill({0, 0, 10, 10}, change);
-            program.catchUp(*receiver);
-            program.queue.advance(1.0 / 240);
-        }
-        return receiver->frames - before;
-    }
-
-    VirtualDesktop desktop;
-    Canvas canvas{desktop.display(), {100, 50, 200, 100}};
-    CaptureProgram program{desktop.display()};
-    std::shared_ptr<FrameReceiver> receiver = std::make_shared<FrameReceiver>();
-};
 
 /// A crop of a picture of the test pattern, against the pattern.
 void expectPattern(const CaptureTest& test) {
@@ -69,27 +37,6 @@ void expectPattern(const CaptureTest& test) {
                 << "at " << x << ", " << y;
         }
     }
-}
-
-/// How many processes are attached to shared memory that this process has made.
-int attachmentsOfOwnMemory() {
-    std::ifstream table("/proc/sysvipc/shm");
-    std::string line;
-    std::getline(table, line);
-    int attachments = 0;
-    while (std::getline(table, line)) {
-        std::istringstream fields(line);
-        long key = 0;
-        long id = 0;
-        long permissions = 0;
-        long size = 0;
-        int creator = 0;
-        int last = 0;
-        int attached = 0;
-        fields >> key >> id >> permissions >> size >> creator >> last >> attached;
-        attachments += creator == getpid() ? attached : 0;
-    }
-    return attachments;
 }
 
 } // namespace
@@ -384,163 +331,6 @@ TEST(ScreenCapture, a_compositor_that_goes_leaves_the_stream_running) {
     test.program.catchUp(*test.receiver);
     EXPECT_EQ(test.receiver->frames, before + 1);
     EXPECT_TRUE(test.receiver->errors.empty());
-}
-
-TEST(ScreenCapture, a_stopped_stream_gives_no_frame_and_no_pixel) {
-    CaptureTest test;
-    const auto stream = test.program.start(test.receiver);
-    test.program.queue.advance(1);
-    test.canvas.fill({0, 0, 10, 10}, 0xFF0000);
-
-    EXPECT_EQ(test.program.outcomeOf(*stream, &SCStream::stopCapture), std::nullopt);
-    test.program.turn();
-
-    EXPECT_EQ(test.receiver->frames, 1);
-    EXPECT_EQ(test.receiver->lastFrame->read({0, 0, 1, 1}), nullptr);
-    EXPECT_EQ(test.program.watchCount(), 0U);
-    EXPECT_TRUE(test.receiver->errors.empty());
-}
-
-TEST(ScreenCapture, a_stop_from_inside_of_a_frame_is_the_end_of_it) {
-    CaptureTest test;
-    auto stream = test.program.start(test.receiver);
-    test.program.queue.advance(1);
-    test.receiver->onFrame = [&](SCStream& running) {
-        running.stopCapture([](const CaptureOutcome&) {});
-        stream.reset();
-    };
-
-    test.canvas.fill({0, 0, 10, 10}, 0xFF0000);
-    test.program.catchUp(*test.receiver);
-
-    EXPECT_EQ(test.receiver->frames, 2);
-    EXPECT_EQ(test.program.watchCount(), 0U);
-}
-
-TEST(ScreenCapture, the_shared_memory_is_free_after_the_stop) {
-    CaptureTest test;
-    const auto stream = test.program.start(test.receiver);
-    // This process and the server.
-    EXPECT_EQ(attachmentsOfOwnMemory(), 2);
-
-    test.program.outcomeOf(*stream, &SCStream::stopCapture);
-
-    EXPECT_TRUE(eventually([] { return attachmentsOfOwnMemory() == 0; }));
-}
-
-TEST(ScreenCapture, a_stream_that_is_let_go_of_ends_without_a_word) {
-    CaptureTest test;
-    auto stream = test.program.start(test.receiver);
-
-    stream.reset();
-
-    EXPECT_EQ(test.program.watchCount(), 0U);
-    EXPECT_TRUE(eventually([] { return attachmentsOfOwnMemory() == 0; }));
-    EXPECT_TRUE(test.receiver->errors.empty());
-}
-
-TEST(ScreenCapture, a_stream_can_be_started_again_after_its_stop) {
-    CaptureTest test;
-    const auto stream = test.program.start(test.receiver);
-    EXPECT_TRUE(test.program.outcomeOf(*stream, &SCStream::startCapture));
-    EXPECT_FALSE(test.program.outcomeOf(*stream, &SCStream::stopCapture));
-    EXPECT_TRUE(test.program.outcomeOf(*stream, &SCStream::stopCapture));
-
-    EXPECT_FALSE(test.program.outcomeOf(*stream, &SCStream::startCapture));
-    test.program.turn();
-
-    EXPECT_EQ(test.receiver->frames, 2);
-}
-
-TEST(ScreenCapture, a_stop_before_the_start_has_completed_makes_the_start_fail) {
-    CaptureTest test;
-    const auto stream = test.program.make(test.receiver, {test.program.firstDisplay(), {}},
-                                          CaptureProgram::configuration());
-    std::optional<CaptureOutcome> started;
-    std::optional<CaptureOutcome> stopped;
-
-    stream->startCapture([&](const CaptureOutcome& outcome) { started = outcome; });
-    stream->stopCapture([&](const CaptureOutcome& outcome) { stopped = outcome; });
-    EXPECT_FALSE(started || stopped);
-    test.program.turn();
-
-    ASSERT_TRUE(started && stopped);
-    EXPECT_TRUE(*started);
-    EXPECT_FALSE(*stopped);
-    EXPECT_EQ(test.receiver->frames, 0);
-}
-
-TEST(ScreenCapture, a_stream_that_goes_before_its_start_completes_it_with_an_error) {
-    CaptureTest test;
-    auto stream = test.program.make(test.receiver, {test.program.firstDisplay(), {}},
-                                    CaptureProgram::configuration());
-    std::optional<CaptureOutcome> started;
-    stream->startCapture([&](const CaptureOutcome& outcome) { started = outcome; });
-
-    stream.reset();
-    test.program.turn();
-
-    ASSERT_TRUE(started);
-    EXPECT_TRUE(*started);
-}
-
-TEST(ScreenCapture, a_wish_that_cannot_be_met_fails_the_start_with_its_reason) {
-    CaptureTest test;
-    const SCContentFilter filter{test.program.firstDisplay(), {}};
-    auto withCursor = CaptureProgram::configuration();
-    withCursor.setShowsCursor(true);
-
-    const auto stream = test.program.make(test.receiver, filter, withCursor);
-
-    const CaptureError expected{"X11DisplayErrorDomain",
-                                "On X11 the pointer is not part of a capture."};
-    EXPECT_EQ(test.program.outcomeOf(*stream, &SCStream::startCapture), expected);
-    EXPECT_TRUE(
-        stream->addStreamOutput(test.receiver, SCStreamOutputType::audio, test.program.queue));
-}
-
-TEST(ScreenCapture, a_display_that_is_not_there_fails_the_start) {
-    CaptureTest test;
-    const auto stream =
-        test.program.make(test.receiver, {{4711, 640, 480}, {}}, CaptureProgram::configuration());
-
-    const CaptureError expected{"X11DisplayErrorDomain",
-                                "There is no display with the number 4711."};
-    EXPECT_EQ(test.program.outcomeOf(*stream, &SCStream::startCapture), expected);
-}
-
-TEST(ScreenCapture, a_server_that_goes_ends_the_stream_with_an_error) {
-    auto options = serverAlone;
-    options.hasOwnNumber = true;
-    CaptureTest test(options);
-    const auto stream = test.program.start(test.receiver);
-
-    test.desktop.stopServer();
-
-    ASSERT_TRUE(test.program.turnUntil([&] { return !test.receiver->errors.empty(); }));
-    test.program.turn();
-    EXPECT_EQ(test.receiver->errors,
-              (std::vector<CaptureError>{
-                  {"X11DisplayErrorDomain",
-                   "The X server " + test.desktop.display() + " does not answer."}}));
-    EXPECT_EQ(test.program.watchCount(), 0U);
-    EXPECT_TRUE(std::holds_alternative<CaptureError>(test.program.content()));
-    EXPECT_EQ(test.program.capture.getActiveDisplayList(32).error, kCGErrorCannotComplete);
-    EXPECT_TRUE(test.program.outcomeOf(*stream, &SCStream::startCapture));
-}
-
-TEST(ScreenCapture, a_display_that_is_switched_off_ends_the_stream_with_an_error) {
-    CaptureTest test;
-    const auto stream = test.program.start(test.receiver);
-    const auto monitors =
-        desktop::activeMonitors(test.desktop.connection().get(), test.desktop.connection().root());
-
-    switchScreenOff(test.desktop.connection());
-
-    ASSERT_TRUE(test.program.turnUntil([&] { return !test.receiver->errors.empty(); }));
-    EXPECT_EQ(test.receiver->errors.at(0).domain, "X11DisplayErrorDomain");
-    EXPECT_EQ(test.receiver->errors.at(0).text,
-              "The display " + monitors.at(0).name + " is not connected any more.");
 }
 
 TEST(ScreenCapture, a_display_that_takes_another_size_gives_frames_of_that_size) {
