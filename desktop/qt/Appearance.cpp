@@ -63,11 +63,6 @@ QColor toQColor(const SystemColor& color, const QPalette& palette) {
     return result;
 }
 
-QColor accentInk(const QPalette& palette) {
-    return blended(toQColor(SystemColor::controlAccentColor, palette),
-                   toQColor(SystemColor::labelColor, palette), 0.3F);
-}
-
 QColor panelMaterial(const QPalette& palette) {
     return isDark(palette) ? QColor(38, 38, 42, 218) : QColor(248, 248, 250, 218);
 }

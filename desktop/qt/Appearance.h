@@ -19,9 +19,6 @@ QColor blended(const QColor& ground, const QColor& over, float part);
 /// As an active control shows it: one that is out of service says so by its own description.
 QColor toQColor(const SystemColor& color, const QPalette& palette);
 
-/// The accent colour for texts and fine symbols, which are to be read on the grounds of both looks.
-QColor accentInk(const QPalette& palette);
-
 /// The translucent material of panels that float over the screen: legible over white, black and
 /// anything between.
 QColor panelMaterial(const QPalette& palette);

@@ -43,8 +43,8 @@ QSize TabButtonWidget::sizeHint() const {
 void TabButtonWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QColor ink =
-        isChecked() ? accentInk(palette()) : toQColor(SystemColor::labelColor, palette());
+    const QColor ink = toQColor(
+        isChecked() ? SystemColor::controlAccentColor : SystemColor::labelColor, palette());
     if (isChecked()) {
         const double opacity = TabButton::selectedGroundOpacity;
         painter.fillRect(rect(),

@@ -13,7 +13,6 @@
 #include <QPainter>
 #include <QTest>
 
-#include <algorithm>
 #include <cmath>
 
 namespace quillon::test {
@@ -22,32 +21,11 @@ using namespace desktop;
 
 namespace {
 
-/// As the web's guidelines measure how bright a colour is, and how one stands out against another.
-double luminance(const QColor& color) {
-    const auto linear = [](double part) {
-        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-           0.0722 * linear(color.blueF());
-}
-double contrast(const QColor& one, const QColor& other) {
-    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
-    return (lighter + 0.05) / (darker + 0.05);
-}
-
 QPalette lightPalette() {
     return QGuiApplication::palette();
 }
 
 } // namespace
-
-TEST(WidgetLooks, the_accent_as_ink_can_be_read_on_its_own_tint_light_and_dark) {
-    for (const QPalette& palette : {lightPalette(), ColorScheme::darkPalette(lightPalette())}) {
-        const QColor ground =
-            blended(palette.color(QPalette::Window), palette.color(QPalette::Highlight), 0.15F);
-        EXPECT_GT(contrast(accentInk(palette), ground), 4.5);
-    }
-}
 
 TEST(WidgetLooks, a_divider_is_sharp_wherever_a_broken_scale_puts_it) {
     for (const qreal scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
