@@ -128,12 +128,12 @@ TEST_F(SpotlightViewTest, a_far_move_damages_the_old_and_the_new_circle_and_no_m
 }
 
 TEST_F(SpotlightViewTest, a_near_move_damages_little_more_than_the_edges_of_the_two) {
-    show({{200, 200}, 50, 0.7});
-    view->setValue({{203, 201}, 50, 0.7});
+    show({{300, 300}, 150, 0.7});
+    view->setValue({{303, 301}, 150, 0.7});
     const Damage damage = view->takeDamage();
-    EXPECT_FALSE(damage.intersects({195, 195, 12, 12})) << "the middle stays as it is";
-    EXPECT_LT(damage.bounds().width, 106);
-    EXPECT_LT(damage.bounds().height, 104);
+    EXPECT_FALSE(damage.intersects({240, 240, 120, 120})) << "the middle stays as it is";
+    EXPECT_LT(damage.bounds().width, 306);
+    EXPECT_LT(damage.bounds().height, 304);
 }
 
 TEST_F(SpotlightViewTest, another_intensity_damages_everything) {
