@@ -40,12 +40,6 @@ int pointsOfWholePixels(CGFloat scale) {
     return 96;
 }
 
-bool hasPremultipliedPixels(QBackingStore& store) {
-    const QPaintDevice* device = store.paintDevice();
-    return device->devType() == QInternal::Image &&
-           static_cast<const QImage*>(device)->format() == QImage::Format_ARGB32_Premultiplied;
-}
-
 } // namespace
 
 ContentWidget::ContentWidget(xcb_connection_t* connection, std::function<void()> onPress)
@@ -193,7 +187,7 @@ bool ContentWidget::isUnderChild(const QRegion& region) const {
 
 bool ContentWidget::putStamped(QBackingStore& store, const QRegion& region) {
     const auto picture = m_content->rootView->stampedPicture();
-    if (!picture || m_backgroundColor.isValid() || !hasPremultipliedPixels(store)) {
+    if (!picture || m_backgroundColor.isValid() || !premultipliedImage(store)) {
         return false;
     }
     QRegion pixels;

@@ -15,8 +15,9 @@ namespace {
 /// Of one rectangle: beyond this the toolkit's way costs no more.
 constexpr int kMostPixels = 256 * 128;
 
-/// The image in which a store keeps its picture, if it does so in the window's own format.
-QImage* imageOf(QBackingStore& store) {
+} // namespace
+
+QImage* premultipliedImage(QBackingStore& store) {
     QPaintDevice* device = store.paintDevice();
     if (device->devType() != QInternal::Image) {
         return nullptr;
@@ -25,15 +26,13 @@ QImage* imageOf(QBackingStore& store) {
     return image->format() == QImage::Format_ARGB32_Premultiplied ? image : nullptr;
 }
 
-} // namespace
-
 DirectPainting::DirectPainting(const QWidget& widget, xcb_connection_t* connection, Paint paint)
     : m_widget(widget)
     , m_upload(connection)
     , m_paint(std::move(paint)) {}
 
 bool DirectPainting::put(QBackingStore& store, const QRegion& region) {
-    QImage* const picture = imageOf(store);
+    QImage* const picture = premultipliedImage(store);
     const auto inPixels = [this](const QRect& rect) {
         return devicePixels(fromQRectF(rect), m_widget.devicePixelRatio());
     };

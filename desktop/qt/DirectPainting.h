@@ -13,6 +13,10 @@ class QWidget;
 
 namespace quillon::desktop {
 
+/// The image in which a store keeps its picture, if it does so in the window's own format; else
+/// null.
+QImage* premultipliedImage(QBackingStore& store);
+
 /// Brings small parts of a widget's picture to the screen by the shortest way: they are painted
 /// into the widget's backing store and go from there straight into its window, each in one request.
 /// The widget system would first go through all that could lie there, and put the whole bounds of
