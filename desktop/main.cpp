@@ -26,6 +26,7 @@
 #include <QApplication>
 #include <QScreen>
 #include <QSocketNotifier>
+#include <QThreadPool>
 #include <unistd.h>
 
 #include <algorithm>
@@ -51,6 +52,9 @@ void prepareToolkit() {
     // Small parts of a picture are on the screen sooner when they travel with their request: with
     // shared memory every paint would first wait for the server to have read the one before.
     qputenv("QT_XCB_NO_MITSHM", "1");
+    // A large area is filled by several threads. Those stay: to let go of them, each would wake up
+    // once more, half a minute after the last work.
+    QThreadPool::globalInstance()->setExpiryTimeout(-1);
     // The toolkit's own loop is a tenth quicker from a motion to its picture than the one of GLib,
     // which only dialogs of another toolkit would need.
     qputenv("QT_NO_GLIB", "1");

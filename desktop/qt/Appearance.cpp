@@ -1,11 +1,6 @@
 #include "desktop/qt/Appearance.h"
 
-#include "desktop/qt/Blur.h"
 #include "desktop/qt/QtConversions.h"
-
-#include <QPainter>
-#include <QPixmapCache>
-#include <QSvgRenderer>
 
 namespace quillon::desktop {
 
@@ -93,28 +88,6 @@ QColor outline(const QPalette& palette) {
 
 QColor panelEdge(const QPalette& palette) {
     return isDark(palette) ? QColor(0, 0, 0, 120) : QColor(0, 0, 0, 38);
-}
-
-QPixmap symbolPixmap(const std::string& name, qreal side, qreal scale, const QColor& color) {
-    const int pixels = qRound(side * scale);
-    const QString file = QStringLiteral(":/symbols/%1.svg").arg(QString::fromStdString(name));
-    const QString key =
-        QStringLiteral("%1 %2 %3").arg(file).arg(pixels).arg(color.name(QColor::HexArgb));
-    QPixmap pixmap;
-    if (QPixmapCache::find(key, &pixmap)) {
-        pixmap.setDevicePixelRatio(scale);
-        return pixmap;
-    }
-    QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    QSvgRenderer(file).render(&painter, QRectF(image.rect()));
-    painter.end();
-    pixmap = QPixmap::fromImage(tinted(image, color));
-    QPixmapCache::insert(key, pixmap);
-    pixmap.setDevicePixelRatio(scale);
-    return pixmap;
 }
 
 } // namespace quillon::desktop

@@ -4,9 +4,6 @@
 
 #include <QColor>
 #include <QPalette>
-#include <QPixmap>
-
-#include <string>
 
 /// How the program's own controls look, light or dark as the desktop is.
 namespace quillon::desktop {
@@ -35,9 +32,5 @@ QColor emptyTrack(const QPalette& palette);
 QColor outline(const QPalette& palette);
 /// The line round a panel or a popup.
 QColor panelEdge(const QPalette& palette);
-
-/// The symbol of that name in one colour, drawn for a square of `side` points at `scale` device
-/// pixels to a point. A name without a glyph gives an empty picture.
-QPixmap symbolPixmap(const std::string& name, qreal side, qreal scale, const QColor& color);
 
 } // namespace quillon::desktop

@@ -2,6 +2,7 @@
 
 #include "desktop/qt/Appearance.h"
 #include "desktop/qt/QtConversions.h"
+#include "desktop/qt/SymbolPicture.h"
 #include "desktop/qt/TextStyles.h"
 #include "desktop/qt/widgets/FocusRing.h"
 
@@ -51,8 +52,8 @@ void TabButtonWidget::paintEvent(QPaintEvent* /*event*/) {
                          toQColor(SystemColor::controlAccentColor.opacity(opacity), palette()));
     }
     const int top = qRound(TabButton::verticalPadding);
-    painter.drawPixmap((width() - kSymbolSize) / 2, top,
-                       symbolPixmap(m_symbol, kSymbolSize, devicePixelRatioF(), ink));
+    painter.drawImage((width() - kSymbolSize) / 2, top,
+                      symbolPicture(m_symbol, kSymbolSize, devicePixelRatioF(), ink));
     painter.setFont(textStyle::fitting(textFont(), m_label, width() - 2 * kTextMargin));
     painter.setPen(ink);
     const int textTop = top + kSymbolSize + qRound(TabButton::spacing);

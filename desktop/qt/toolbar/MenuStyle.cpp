@@ -2,6 +2,7 @@
 
 #include "desktop/qt/Appearance.h"
 #include "desktop/qt/PopupSurface.h"
+#include "desktop/qt/SymbolPicture.h"
 #include "desktop/qt/widgets/Divider.h"
 #include "toolbar/FloatingToolbarView.h"
 
@@ -54,8 +55,8 @@ void drawEntry(const QStyleOptionMenuItem& option, QPainter& painter) {
     if (option.checked) {
         const QPointF place(rect.right() - kGap - kCheckmarkSide,
                             rect.center().y() + 1 - kCheckmarkSide / 2.0);
-        painter.drawPixmap(place,
-                           symbolPixmap(ToolMenu::checkmark, kCheckmarkSide, scale, foreground));
+        painter.drawImage(place,
+                          symbolPicture(ToolMenu::checkmark, kCheckmarkSide, scale, foreground));
     }
 }
 

@@ -1,6 +1,7 @@
 #include "desktop/qt/toolbar/QuickColorsWidget.h"
 
 #include "desktop/qt/Appearance.h"
+#include "desktop/qt/SymbolPicture.h"
 #include "desktop/qt/toolbar/PopupMenu.h"
 #include "desktop/qt/toolbar/Ring.h"
 #include "desktop/qt/toolbar/SwatchButton.h"
@@ -39,8 +40,8 @@ protected:
         const QPointF center = QRectF(rect()).center();
         painter.strokePath(circle(center, View::AddButton::diameter - width), border);
         const qreal side = View::AddButton::fontSize * 1.15;
-        painter.drawPixmap(center - QPointF(side, side) / 2,
-                           symbolPixmap(View::AddButton::icon, side, devicePixelRatioF(),
+        painter.drawImage(center - QPointF(side, side) / 2,
+                          symbolPicture(View::AddButton::icon, side, devicePixelRatioF(),
                                         toQColor(SystemColor::secondaryLabelColor, palette())));
         if (underMouse() || FocusRing::isShown(*this)) {
             FocusRing::stroke(

@@ -3,6 +3,7 @@
 #include "desktop/qt/Appearance.h"
 #include "desktop/qt/PopupWatch.h"
 #include "desktop/qt/QtConversions.h"
+#include "desktop/qt/SymbolPicture.h"
 #include "desktop/qt/TextStyles.h"
 #include "desktop/qt/widgets/FocusRing.h"
 
@@ -241,7 +242,7 @@ void ToolbarButtonWidget::paintFace(QPainter& painter) const {
     // A glyph leaves a margin in its grid that the same glyph of a font would not have.
     const qreal side = ToolbarButton::symbolFontSize * 1.25;
     const QPointF symbol(frame.center().x() - side / 2, top + (symbolFrame.height - side) / 2);
-    painter.drawPixmap(symbol, symbolPixmap(button.icon, side, devicePixelRatio(), foreground));
+    painter.drawImage(symbol, symbolPicture(button.icon, side, devicePixelRatio(), foreground));
 
     const QRectF caption(frame.left(), top + height - metrics.height(), frame.width(),
                          metrics.height());

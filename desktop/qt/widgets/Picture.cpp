@@ -2,6 +2,7 @@
 
 #include "desktop/qt/Appearance.h"
 #include "desktop/qt/QtImages.h"
+#include "desktop/qt/SymbolPicture.h"
 
 #include <QPainter>
 
@@ -24,9 +25,9 @@ void Picture::paintEvent(QPaintEvent* /*event*/) {
     if (m_image.kind == Image::Kind::asset) {
         QtImages::icon(m_image, SymbolTint::none).paint(&painter, rect());
     } else {
-        painter.drawPixmap(
-            0, 0,
-            symbolPixmap(m_image.name, width(), devicePixelRatioF(), toQColor(m_color, palette())));
+        painter.drawImage(0, 0,
+                          symbolPicture(m_image.name, width(), devicePixelRatioF(),
+                                        toQColor(m_color, palette())));
     }
 }
 

@@ -46,8 +46,6 @@ protected:
     CursorHalo() = default;
     using ProgramTest::ProgramTest;
 
-    void toggleHalo() { input.chord({"Super_L", "Shift_L", "h"}); }
-
     /// Starts the program, switches the halo on and brings it to `place`.
     void startWithHaloAt(Pixel place) {
         start();
@@ -92,23 +90,14 @@ protected:
 
     /// The windows on the screen with that side.
     std::vector<xcb_window_t> squareWindows(int side) {
-        std::vector<xcb_window_t> found;
-        xcb_connection_t* connection = desktop.connection().get();
-        const XOwned<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(
-            connection, xcb_query_tree(connection, desktop.connection().root()), nullptr));
-        const xcb_window_t* children = xcb_query_tree_children(tree.get());
-        for (int index = 0; index < xcb_query_tree_children_length(tree.get()); ++index) {
-            const XOwned<xcb_get_geometry_reply_t> geometry(xcb_get_geometry_reply(
-                connection, xcb_get_geometry(connection, children[index]), nullptr));
-            const XOwned<xcb_get_window_attributes_reply_t> attributes(
-                xcb_get_window_attributes_reply(
-                    connection, xcb_get_window_attributes(connection, children[index]), nullptr));
-            if (geometry && attributes && geometry->width == side && geometry->height == side &&
-                attributes->map_state == XCB_MAP_STATE_VIEWABLE) {
-                found.push_back(children[index]);
-            }
-        }
-        return found;
+        std::vector<xcb_window_t> windows = desktop.connection().shownWindows();
+        std::erase_if(windows, [&](auto window) {
+            xcb_connection_t* connection = desktop.connection().get();
+            const XOwned<xcb_get_geometry_reply_t> geometry(
+                xcb_get_geometry_reply(connection, xcb_get_geometry(connection, window), nullptr));
+            return !geometry || geometry->width != side || geometry->height != side;
+        });
+        return windows;
     }
 };
 

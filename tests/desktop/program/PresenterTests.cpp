@@ -24,9 +24,6 @@ protected:
         }));
     }
 
-    void toggleHalo() { input.chord({"Super_L", "Shift_L", "h"}); }
-    void toggleSpotlight() { input.chord({"Super_L", "Shift_L", "l"}); }
-
     bool isRing(Pixel place) { return isNear(screen.pixel(place), {50, 173, 230}, 30); }
     bool isFollowedTo(Pixel place, std::chrono::milliseconds bound = defaultBound) {
         return eventually(

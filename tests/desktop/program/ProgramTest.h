@@ -12,6 +12,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string_view>
 
 namespace quillon::test {
 
@@ -59,9 +60,14 @@ protected:
         EXPECT_TRUE(eventually([this] { return takesPointer(); }));
     }
 
-    void toggleAnnotation() { input.chord({"Super_L", "Shift_L", "s"}); }
-    void toggleWhiteboard() { input.chord({"Super_L", "Shift_L", "w"}); }
-    void clear() { input.chord({"Super_L", "Shift_L", "c"}); }
+    void toggleAnnotation() { pressShortcut("s"); }
+    void toggleWhiteboard() { pressShortcut("w"); }
+    void toggleHalo() { pressShortcut("h"); }
+    void toggleSpotlight() { pressShortcut("l"); }
+    void toggleZoom() { pressShortcut("x"); }
+    void clear() { pressShortcut("c"); }
+    /// A shortcut as the program comes, by its last key.
+    void pressShortcut(std::string_view key) { input.chord({"Super_L", "Shift_L", key}); }
 
     /// Whether the pointer meets another window than the one below, where it stands now.
     bool takesPointer() {

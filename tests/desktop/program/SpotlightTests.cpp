@@ -25,7 +25,6 @@ protected:
         input.moveTo(place);
         toggleSpotlight();
     }
-    void toggleSpotlight() { input.chord({"Super_L", "Shift_L", "l"}); }
 
     bool isDimmed(Pixel place) {
         // Three tenths of each component of the background.

@@ -37,7 +37,6 @@ protected:
         input.moveTo(place);
         toggleZoom();
     }
-    void toggleZoom() { input.chord({"Super_L", "Shift_L", "x"}); }
 
     /// The top left corner of the lens when nothing holds it up.
     static Pixel lensAt(Pixel pointer) { return {pointer.x + 150, pointer.y - 100}; }
@@ -213,7 +212,7 @@ TEST_F(Zoom, the_spotlight_is_seen_in_the_lens) {
     });
     startWith(MagnificationFactor::x2);
     ASSERT_TRUE(showsMagnified({300, 300}, 2));
-    input.chord({"Super_L", "Shift_L", "l"});
+    toggleSpotlight();
     // The lens came first, so the dark lies over it. It is brought to the front again.
     toggleZoom();
     toggleZoom();

@@ -69,6 +69,20 @@ std::vector<xcb_window_t> XConnection::windowsTitled(const std::string& title) c
     return windows;
 }
 
+std::vector<xcb_window_t> XConnection::shownWindows() const {
+    const XOwned<xcb_query_tree_reply_t> tree(
+        xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, root()), nullptr));
+    const xcb_window_t* children = xcb_query_tree_children(tree.get());
+    std::vector<xcb_window_t> windows(children,
+                                      children + xcb_query_tree_children_length(tree.get()));
+    std::erase_if(windows, [this](auto window) {
+        const XOwned<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
+            m_connection, xcb_get_window_attributes(m_connection, window), nullptr));
+        return !attributes || attributes->map_state != XCB_MAP_STATE_VIEWABLE;
+    });
+    return windows;
+}
+
 xcb_rectangle_t XConnection::place(xcb_window_t window) const {
     const XOwned<xcb_get_geometry_reply_t> geometry(
         xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, window), nullptr));

@@ -39,6 +39,8 @@ public:
     std::string text(xcb_window_t window, const std::string& name) const;
     /// The windows of that title among those of the window manager.
     std::vector<xcb_window_t> windowsTitled(const std::string& title) const;
+    /// What is on the screen, from the lowest to the uppermost; windows of programs are in frames.
+    std::vector<xcb_window_t> shownWindows() const;
     /// Where a window stands on the root window, without its frame.
     xcb_rectangle_t place(xcb_window_t window) const;
     /// Sends a message about a window to the window manager, as a pager or task bar does.
