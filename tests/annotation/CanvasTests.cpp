@@ -199,6 +199,30 @@ TEST_F(Canvas, a_tool_changed_in_the_middle_of_a_drag_finishes_it_in_its_own_way
     EXPECT_FALSE(current());
 }
 
+TEST_F(Canvas, a_freehand_stroke_under_a_shape_tool_takes_no_shape) {
+    canvas.mouseDown({1, 1});
+    canvas.mouseDragged({5, 5});
+    canvas.selectedTool = DrawingTool::rectangle;
+    canvas.mouseDragged({9, 9});
+    ASSERT_TRUE(current());
+    EXPECT_FALSE(current()->shapeRect || current()->shapeEndPoint);
+    EXPECT_EQ(current()->points.size(), 2U);
+}
+
+TEST_F(Canvas, a_shape_under_the_pen_is_drawn_on_by_points_and_completed_as_the_shape_it_was) {
+    canvas.selectedTool = DrawingTool::rectangle;
+    canvas.mouseDown({1, 1});
+    canvas.mouseDragged({5, 5});
+    canvas.selectedTool = DrawingTool::pen;
+    canvas.mouseDragged({9, 9});
+    canvas.mouseUp({9, 9});
+    ASSERT_EQ(completed.size(), 1U);
+    EXPECT_EQ(completed[0].tool, DrawingTool::rectangle);
+    EXPECT_EQ(completed[0].cgShapeRect(), (CGRect{1, 1, 4, 4}));
+    EXPECT_EQ(completed[0].cgPoints(), (std::vector<CGPoint>{{1, 1}, {9, 9}, {9, 9}}));
+    EXPECT_FALSE(current());
+}
+
 TEST_F(Canvas, the_four_shape_tools_have_their_shapes_and_the_others_none) {
     EXPECT_EQ(shapeTypeForTool(DrawingTool::rectangle), ShapeType::rectangle);
     EXPECT_EQ(shapeTypeForTool(DrawingTool::circle), ShapeType::circle);

@@ -114,6 +114,12 @@ TEST_F(CanvasText, the_loss_of_the_keyboard_commits_once) {
     EXPECT_EQ(completed.size(), 1U);
 }
 
+TEST_F(CanvasText, the_focus_can_be_changed_in_place_too) {
+    typeAt({70, 80}, "Hello");
+    canvas.textField()->isFocused.modify([](bool& isFocused) { isFocused = !isFocused; });
+    EXPECT_EQ(completed.size(), 1U);
+}
+
 TEST_F(CanvasText, an_empty_field_goes_without_a_stroke) {
     typeAt({70, 80}, "");
     canvas.textField()->onSubmit();
@@ -140,6 +146,20 @@ TEST_F(CanvasText, the_same_reset_number_changes_nothing) {
     typeAt({70, 80}, "Hello");
     canvas.setTextEditorResetID(0);
     EXPECT_TRUE(canvas.isEditingText());
+}
+
+TEST_F(CanvasText, one_reset_number_drops_one_text) {
+    canvas.setTextEditorResetID(1);
+    typeAt({70, 80}, "Hello");
+    canvas.setTextEditorResetID(1);
+    EXPECT_TRUE(canvas.isEditingText());
+}
+
+TEST_F(CanvasText, the_owner_hears_of_the_field_as_it_comes_and_goes) {
+    canvas.mouseDown({70, 80});
+    EXPECT_EQ(textFieldChanges, 1);
+    canvas.textField()->onSubmit();
+    EXPECT_EQ(textFieldChanges, 2);
 }
 
 TEST_F(CanvasText, a_click_elsewhere_commits_and_starts_nothing) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -47,6 +48,27 @@ TEST(DrawingState, drops_as_many_of_the_oldest_snapshots_as_there_are_above_50) 
     EXPECT_EQ(state.undoStack->front().size(), 1U);
 }
 
+TEST(DrawingState, more_than_50_snapshots_are_seen_by_nobody_who_hears_the_list) {
+    DrawingState state;
+    state.undoStack = std::vector<StrokeList>(DrawingState::maxUndoSteps);
+    std::vector<std::size_t> sizes;
+    const auto subscription = state.strokes.sinkDroppingFirst(
+        [&](const auto&) { sizes.push_back(state.undoStack->size()); });
+    state.addStroke(numbered(1));
+    state.removeStroke(UUID::random());
+    state.clearAll();
+    EXPECT_EQ(sizes, (std::vector<std::size_t>{50, 50, 50}));
+}
+
+TEST(DrawingState, a_stack_that_is_not_too_long_is_not_announced_a_second_time) {
+    DrawingState state;
+    state.undoStack = std::vector<StrokeList>(DrawingState::maxUndoSteps - 1);
+    int heard = 0;
+    const auto subscription = state.undoStack.sinkDroppingFirst([&](const auto&) { ++heard; });
+    state.addStroke(numbered(1));
+    EXPECT_EQ(heard, 1);
+}
+
 TEST(DrawingState, adding_takes_the_snapshot_then_adds_then_empties_the_redo_stack) {
     DrawingState state;
     std::vector<std::string> steps;
@@ -88,6 +110,40 @@ TEST(DrawingState, undo_and_redo_restore_the_same_strokes) {
     EXPECT_EQ(idsOf(state.strokes), (std::vector<UUID>{before[0]}));
     state.redo();
     EXPECT_EQ(idsOf(state.strokes), before);
+}
+
+TEST(DrawingState, what_was_redone_can_be_undone_again) {
+    DrawingState state;
+    state.addStroke(numbered(1));
+    state.addStroke(numbered(2));
+    const auto both = idsOf(state.strokes);
+    state.undo();
+    state.undo();
+    state.redo();
+    state.redo();
+    EXPECT_EQ(state.undoStack->size(), 2U);
+    EXPECT_FALSE(state.canRedo());
+    state.undo();
+    EXPECT_EQ(idsOf(state.strokes), (std::vector<UUID>{both[0]}));
+    state.undo();
+    EXPECT_TRUE(state.strokes->empty());
+}
+
+TEST(DrawingState, undo_and_redo_keep_the_present_list_then_take_a_snapshot_then_show_it) {
+    DrawingState state;
+    state.addStroke(numbered(1));
+    std::vector<std::string> steps;
+    const auto undo =
+        state.undoStack.sinkDroppingFirst([&](const auto&) { steps.emplace_back("undo stack"); });
+    const auto redo =
+        state.redoStack.sinkDroppingFirst([&](const auto&) { steps.emplace_back("redo stack"); });
+    const auto list =
+        state.strokes.sinkDroppingFirst([&](const auto&) { steps.emplace_back("strokes"); });
+    state.undo();
+    EXPECT_EQ(steps, (std::vector<std::string>{"redo stack", "undo stack", "strokes"}));
+    steps.clear();
+    state.redo();
+    EXPECT_EQ(steps, (std::vector<std::string>{"undo stack", "redo stack", "strokes"}));
 }
 
 TEST(DrawingState, removing_an_unknown_stroke_costs_an_undo_step_and_the_redo_stack) {

@@ -3,6 +3,7 @@
 #include "annotation/AnnotationCanvas.h"
 #include "model/DrawingStroke.h"
 
+#include <string>
 #include <vector>
 
 namespace quillon::test {
