@@ -125,6 +125,15 @@ TEST_F(AppDelegateOverlayTest, toggling_annotation_repeats_its_effect_one_turn_l
     EXPECT_EQ(host.windows.calls, (std::vector<std::string>{"orderFront", "takesMouse"}));
 }
 
+TEST_F(AppDelegateOverlayTest, toggling_annotation_brings_the_overlay_to_the_front_at_once) {
+    launch();
+    delegate->toggleAnnotation();
+    host.mainQueue.run();
+    host.windows.calls.clear();
+    delegate->toggleAnnotation();
+    EXPECT_EQ(host.windows.calls, (std::vector<std::string>{"ignoresMouse", "orderFront"}));
+}
+
 TEST_F(AppDelegateOverlayTest, annotation_switched_off_brings_an_absent_overlay_into_being) {
     host.userDefaults.setBool("isAnnotationEnabled", true);
     delegate->applicationDidFinishLaunching();
@@ -172,6 +181,18 @@ TEST_F(AppDelegateOverlayTest, a_whiteboard_that_goes_while_annotation_is_off_le
     host.mainQueue.run();
     EXPECT_FALSE(settings().isWhiteboardMode);
     EXPECT_FALSE(settings().isAnnotationEnabled);
+    EXPECT_TRUE(delegate->overlayWindow()->ignoresMouseEvents());
+}
+
+TEST_F(AppDelegateOverlayTest,
+       a_stored_whiteboard_that_goes_first_leaves_an_overlay_to_click_through) {
+    host.userDefaults.setBool("isWhiteboardMode", true);
+    launch();
+    delegate->toggleWhiteboard();
+    EXPECT_FALSE(settings().isWhiteboardMode);
+    EXPECT_FALSE(settings().isAnnotationEnabled);
+    ASSERT_TRUE(delegate->overlayWindow());
+    EXPECT_TRUE(delegate->overlayWindow()->isVisible());
     EXPECT_TRUE(delegate->overlayWindow()->ignoresMouseEvents());
 }
 

@@ -7,7 +7,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace quillon::test {
 
@@ -67,6 +69,10 @@ TEST_F(OverlayWindowTest, setting_the_mode_neither_orders_the_window_nor_posts) 
 
 TEST_F(OverlayWindowTest, it_may_become_key_though_it_is_borderless) {
     EXPECT_TRUE(OverlayWindow(someFrame).canBecomeKeyWindow());
+}
+
+TEST_F(OverlayWindowTest, text_entry_finds_it_among_the_windows) {
+    EXPECT_EQ(OverlayWindow(someFrame).identifier(), overlayWindowIdentifier);
 }
 
 TEST_F(OverlayWindowTest, it_is_not_on_screen_after_construction) {
@@ -136,8 +142,10 @@ TEST_F(OverlayWindowTest, toggling_visibility_leaves_a_capturing_window_as_it_is
     listen(NotificationName::annotationModeChanged);
     OverlayWindow window(someFrame);
     window.setAnnotationMode(true);
+    host.windows.calls.clear();
     window.toggleOverlayVisibility();
     EXPECT_FALSE(window.ignoresMouseEvents());
+    EXPECT_EQ(host.windows.calls, std::vector<std::string>{"takesMouse"}) << "asserted again";
     ASSERT_EQ(heard.size(), 1U);
     EXPECT_EQ(heard[0].userInfo, (NotificationUserInfo{{"isEnabled", true}}));
 }
