@@ -125,4 +125,9 @@ TEST(Color, a_grey_has_no_hue_and_black_no_saturation) {
               (NSColor::HSBA{0, 0, 0, 1}));
 }
 
+TEST(Color, one_darker_than_black_has_no_saturation_either) {
+    EXPECT_EQ(Color(0, -0.25, -0.5).nsColor().getHueSaturationBrightnessAlpha(),
+              (NSColor::HSBA{0, 0, 0, 1}));
+}
+
 } // namespace quillon::test

@@ -8,7 +8,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 namespace quillon::test {
@@ -64,6 +66,13 @@ TYPED_TEST(OptionTypes, an_unknown_string_yields_no_value) {
     EXPECT_EQ(fromRawValue<TypeParam>("unknown"), std::nullopt);
     EXPECT_EQ(decodeJSON<TypeParam>(JSON("unknown")), std::nullopt);
     EXPECT_EQ(decodeJSON<TypeParam>(JSON(nullptr)), std::nullopt);
+}
+
+TYPED_TEST(OptionTypes, cases_stand_in_order_and_can_be_hashed) {
+    const auto cases = allCases<TypeParam>();
+    EXPECT_TRUE(std::is_sorted(cases.begin(), cases.end()));
+    const std::unordered_set<TypeParam> set(cases.begin(), cases.end());
+    EXPECT_EQ(set.size(), cases.size());
 }
 
 TEST(HaloShape, three_shapes_with_their_names) {
