@@ -57,7 +57,8 @@ bool DirectPainting::put(QBackingStore& store, const QRegion& region) {
 }
 
 void DirectPainting::follow(QImage& picture) {
-    if (m_pixels.constBits() == picture.constBits() && m_pixels.size() == picture.size()) {
+    if (m_pixels.constBits() == picture.constBits() && m_pixels.size() == picture.size() &&
+        m_pixels.devicePixelRatio() == picture.devicePixelRatio()) {
         return;
     }
     if (m_painter.isActive()) {

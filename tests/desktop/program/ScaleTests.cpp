@@ -1,0 +1,38 @@
+#include "desktop/program/ProgramTest.h"
+#include "desktop/support/DesktopScale.h"
+
+namespace quillon::test {
+namespace {
+
+/// A desktop whose user changes its scale while the program runs.
+class Scale : public ProgramTest {
+protected:
+    /// Whether a line of that width, in device pixels, stands there.
+    bool showsLine(Pixel place, int width) {
+        const int inside = width / 2 - 2;
+        const int outside = width / 2 + 2;
+        return showsInk(place) && showsInk({place.x, place.y - inside}) &&
+               showsInk({place.x, place.y + inside}) &&
+               showsBackground({place.x, place.y - outside}) &&
+               showsBackground({place.x, place.y + outside});
+    }
+
+    DesktopScale scale{desktop.display(), 100};
+};
+
+TEST_F(Scale, what_is_drawn_before_and_after_a_change_has_its_size_in_points) {
+    prepareTool(DrawingTool::pen);
+    startAnnotating();
+    input.drag({{100, 100}, {300, 100}});
+    ASSERT_TRUE(showsLine({200, 100}, 8));
+    scale.change(200);
+    EXPECT_TRUE(showsLine({400, 200}, 16));
+    EXPECT_TRUE(showsBackground({200, 100}));
+    input.drag({{100, 300}, {300, 300}});
+    EXPECT_TRUE(showsLine({200, 300}, 16));
+    input.drag({{800, 500}, {800, 590}});
+    EXPECT_TRUE(showsInk({800, 580}));
+}
+
+} // namespace
+} // namespace quillon::test
