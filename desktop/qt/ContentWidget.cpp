@@ -94,6 +94,9 @@ bool ContentWidget::event(QEvent* event) {
 
 bool ContentWidget::eventFilter(QObject* watched, QEvent* event) {
     if (watched == windowHandle() && event->type() == QEvent::Expose) {
+        if (m_scale != devicePixelRatio()) {
+            layoutContent();
+        }
         // What the toolkit keeps for this does not hold what went past it.
         update();
     }
@@ -386,9 +389,19 @@ void ContentWidget::showControls(const std::shared_ptr<ControlsView>& view) {
 
 void ContentWidget::layoutContent() {
     m_paintedSize = {};
+    followScale();
     if (m_content) {
         const CGSize points{static_cast<CGFloat>(width()), static_cast<CGFloat>(height())};
         m_content->rootView->layout(points, devicePixelRatio());
+    }
+}
+
+void ContentWidget::followScale() {
+    const CGFloat scale = devicePixelRatio();
+    if (std::exchange(m_scale, scale) != scale && backingStore()) {
+        // The toolkit compares points, and would keep a store of too few pixels.
+        backingStore()->resize(size());
+        update();
     }
 }
 

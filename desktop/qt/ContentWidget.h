@@ -87,6 +87,7 @@ private:
     void tellControlsPlace();
     void showControls(const std::shared_ptr<ControlsView>& view);
     void layoutContent();
+    void followScale();
     QRegion regionOf(const Damage& damage) const;
     /// Paints the region and puts it on the screen at once.
     void putOnScreen(const QRegion& region);
@@ -108,6 +109,8 @@ private:
     std::unique_ptr<ControlsWidget> m_controls;
     QRect m_controlsPlace;
     std::optional<InkMask> m_inkMask;
+    /// For which the content was laid out, and the store has its pixels.
+    CGFloat m_scale = 1;
     bool m_isUpdatePending = false;
     QElapsedTimer m_sinceLastUpdate;
     /// The size in which the widget system last painted; empty when it has yet to prepare the

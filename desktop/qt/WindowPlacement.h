@@ -14,7 +14,8 @@ namespace quillon::desktop {
 /// Where a window stands on the desktop, and above what.
 ///
 /// A window on the screen that moves without changing its size, such as one that follows the
-/// pointer, costs the server one request, which carries its new place and its stacking together.
+/// pointer, costs the server one request, which carries its new place and its stacking together;
+/// and its size, of which the toolkit does not think when the scale has changed.
 /// Nothing of it is painted for that. The toolkit would ask the server five questions after each
 /// move, while a compositor is at work to show it; it is told of such a move only where it might
 /// need the place.

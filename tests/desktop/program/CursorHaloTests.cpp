@@ -1,4 +1,5 @@
 #include "desktop/program/ProgramTest.h"
+#include "desktop/support/DesktopScale.h"
 #include "desktop/support/ScreenSize.h"
 #include "desktop/support/WakeUps.h"
 
@@ -60,16 +61,16 @@ protected:
             return hasRing(place, std::chrono::milliseconds(100));
         });
     }
+    bool showsRing(Pixel place, int radius) {
+        return isHalo(screen.pixel({place.x + radius - 1, place.y})) &&
+               isHalo(screen.pixel({place.x - radius, place.y})) &&
+               isHalo(screen.pixel({place.x, place.y + radius - 1})) &&
+               isHalo(screen.pixel({place.x, place.y - radius})) &&
+               screen.pixel(place) == kBackground;
+    }
     /// Whether the ring stands round `place`, which is the upper left corner of a pixel.
     bool hasRing(Pixel place, std::chrono::milliseconds bound = defaultBound) {
-        const auto isThere = [&] {
-            return isHalo(screen.pixel({place.x + kRadius - 1, place.y})) &&
-                   isHalo(screen.pixel({place.x - kRadius, place.y})) &&
-                   isHalo(screen.pixel({place.x, place.y + kRadius - 1})) &&
-                   isHalo(screen.pixel({place.x, place.y - kRadius})) &&
-                   screen.pixel(place) == kBackground;
-        };
-        return eventually(isThere, bound);
+        return eventually([&] { return showsRing(place, kRadius); }, bound);
     }
     bool hasNoRing(Pixel place) {
         return screen.waitForPixel({place.x + kRadius - 1, place.y},
@@ -372,19 +373,26 @@ TEST_P(ScaledCursorHalo, the_ring_grows_and_the_pointer_stays_in_its_middle) {
         EXPECT_TRUE(eventually([&] {
             input.moveTo({place.x - 3, place.y});
             input.moveTo(place);
-            return eventually(
-                [&] {
-                    return isHalo(screen.pixel({place.x + radius - 1, place.y})) &&
-                           isHalo(screen.pixel({place.x - radius, place.y})) &&
-                           isHalo(screen.pixel({place.x, place.y + radius - 1})) &&
-                           isHalo(screen.pixel({place.x, place.y - radius}));
-                },
-                std::chrono::milliseconds(100));
+            return eventually([&] { return showsRing(place, radius); },
+                              std::chrono::milliseconds(100));
         })) << place.x;
     }
 }
 
 INSTANTIATE_TEST_SUITE_P(Scales, ScaledCursorHalo, testing::Values(125, 150, 200));
+
+TEST_F(CursorHalo, it_follows_changes_of_the_scale_and_the_pointer_stays_in_its_middle) {
+    DesktopScale scale(desktop.display(), 100);
+    startWithHaloAt({300, 300});
+    for (const int percent : {200, 125, 100}) {
+        scale.change(percent);
+        const int radius = kRadius * percent / 100;
+        for (const Pixel place : {Pixel{305, 300}, Pixel{600, 400}}) {
+            input.moveTo(place);
+            EXPECT_TRUE(eventually([&] { return showsRing(place, radius); })) << percent;
+        }
+    }
+}
 
 class CursorHaloWithoutCompositor : public CursorHalo {
 protected:
