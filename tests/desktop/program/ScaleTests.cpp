@@ -34,5 +34,22 @@ TEST_F(Scale, what_is_drawn_before_and_after_a_change_has_its_size_in_points) {
     EXPECT_TRUE(showsInk({800, 580}));
 }
 
+TEST_F(Scale, the_spotlight_has_its_radius_in_points_after_a_change) {
+    prepare([](AppSettings& settings) { settings.spotlightRadius = 60; });
+    start();
+    input.moveTo({450, 300});
+    input.chord({"Super_L", "Shift_L", "l"});
+    ASSERT_TRUE(showsBackground({450 + 57, 300}));
+    const Rgb dimmed = screen.pixel({10, 590});
+    ASSERT_TRUE(screen.waitForColor({450 + 63, 300}, dimmed));
+    scale.change(200);
+    for (const int x : {450, 440, 500}) {
+        input.moveTo({x, 300});
+        EXPECT_TRUE(showsBackground({x + 116, 300})) << x;
+        EXPECT_TRUE(screen.waitForColor({x + 124, 300}, dimmed)) << x;
+        EXPECT_TRUE(screen.waitForColor({10, 590}, dimmed)) << x;
+    }
+}
+
 } // namespace
 } // namespace quillon::test
