@@ -41,8 +41,9 @@ void fillOutside(GraphicsContext& context, const CGRect& rect, const CGRect& squ
     }
 }
 
-CGFloat phase(CGFloat place) {
-    return std::round((place - std::floor(place)) * kPhases) / kPhases;
+/// Broken scales leave a place a little below the whole pixel at which it stands.
+CGFloat inPhases(CGFloat place) {
+    return std::round(place * kPhases) / kPhases;
 }
 
 } // namespace
@@ -66,15 +67,16 @@ void DimmedPicture::paint(GraphicsContext& context, const CGRect& rect, const Ci
 
 std::optional<StampedPicture> DimmedPicture::stamped(const Circle& circle, const Color& color,
                                                      CGFloat scale) {
-    const CGPoint center = circle.center * scale;
-    const Look look{circle.radius * scale, {phase(center.x), phase(center.y)}, color, scale};
+    const CGPoint center{inPhases(circle.center.x * scale), inPhases(circle.center.y * scale)};
+    const CGPoint pixel{std::floor(center.x), std::floor(center.y)};
+    const Look look{circle.radius * scale, center - pixel, color, scale};
     if (look.radius > kLargestRadius) {
         return std::nullopt;
     }
     if (!m_square || look != m_look) {
         paintSquare(look);
     }
-    const CGPoint corner{std::floor(center.x) - look.reach(), std::floor(center.y) - look.reach()};
+    const CGPoint corner{pixel.x - look.reach(), pixel.y - look.reach()};
     return StampedPicture{color, m_square, {corner.x / scale, corner.y / scale}};
 }
 

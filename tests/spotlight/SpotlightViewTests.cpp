@@ -87,6 +87,19 @@ TEST_F(SpotlightViewTest, the_square_round_the_circle_is_painted_once_for_many_p
     EXPECT_EQ(host.graphics.lastBitmap->size(), (CGSize{284, 284}));
 }
 
+TEST_F(SpotlightViewTest, at_a_broken_scale_it_is_one_square_for_all_whole_pixels) {
+    show({{300, 200}, 150, 0.7});
+    view->layout({1000, 800}, 1.25);
+    const auto square = view->stampedPicture()->stamp;
+    for (int pixel = 300; pixel < 600; ++pixel) {
+        const CGFloat fromBelow = 800 - pixel / 1.25;
+        view->setValue({{pixel / 1.25, 800 - fromBelow}, 150, 0.7});
+        const auto picture = view->stampedPicture();
+        ASSERT_EQ(picture->stamp, square) << pixel;
+        EXPECT_NEAR(picture->corner.y * 1.25, pixel - 190, 1e-9);
+    }
+}
+
 TEST_F(SpotlightViewTest, as_a_value_it_is_the_black_and_that_square) {
     show({{300, 200}, 150, 0.7});
     drawn();
