@@ -57,13 +57,18 @@ std::string bytesAt(sqlite3_stmt* row, int column) {
     return bytes ? std::string(bytes, size) : std::string();
 }
 
+using Texts = std::vector<std::string>;
+
+/// What `kCheck` answers of a file without a fault.
+const Texts kSound{"ok"};
+
 /// The first column of all rows of a query, or nothing when it fails.
-std::optional<std::vector<std::string>> textsOf(sqlite3* database, const char* sql) {
+std::optional<Texts> textsOf(sqlite3* database, const char* sql) {
     const SqliteStatement query = prepare(database, sql);
     if (!query) {
         return std::nullopt;
     }
-    std::vector<std::string> texts;
+    Texts texts;
     int step = sqlite3_step(query.get());
     for (; step == SQLITE_ROW; step = sqlite3_step(query.get())) {
         texts.push_back(bytesAt(query.get(), 0));
@@ -83,6 +88,27 @@ bool begin(sqlite3* database) {
            execute(database, kSchema);
 }
 
+/// The name by which a file is opened that nobody changes: no log has to stand beside it.
+std::string unchangingFile(const std::filesystem::path& file) {
+    std::string name = "file://";
+    for (const char character : file.string()) {
+        switch (character) {
+        case '%':
+            name += "%25";
+            break;
+        case '?':
+            name += "%3F";
+            break;
+        case '#':
+            name += "%23";
+            break;
+        default:
+            name += character;
+        }
+    }
+    return name + "?immutable=1";
+}
+
 /// What is wrong with the file, if anything; an empty one is begun.
 std::optional<SettingsDatabase::Problem> examine(sqlite3* database) {
     const auto faults = textsOf(database, kCheck);
@@ -91,8 +117,7 @@ std::optional<SettingsDatabase::Problem> examine(sqlite3* database) {
         return problemOf(database);
     }
     const bool isEmpty = schema->empty();
-    if (*faults != std::vector<std::string>{"ok"} ||
-        (!isEmpty && *schema != std::vector<std::string>{kSchema})) {
+    if (*faults != kSound || (!isEmpty && *schema != Texts{kSchema})) {
         return SettingsDatabase::Problem::damaged;
     }
     const bool isReady =
@@ -118,6 +143,22 @@ std::optional<DefaultsValue> valueAt(sqlite3_stmt* row) {
         return Data{bytesAt(row, dataColumn)};
     }
     return std::nullopt;
+}
+
+/// All rows, or nothing when they cannot be read.
+std::optional<DefaultsTable> tableIn(sqlite3* database) {
+    const SqliteStatement select = prepare(database, kSelect);
+    if (!select) {
+        return std::nullopt;
+    }
+    DefaultsTable table;
+    int step = sqlite3_step(select.get());
+    for (; step == SQLITE_ROW; step = sqlite3_step(select.get())) {
+        if (auto value = valueAt(select.get())) {
+            table.insert_or_assign(bytesAt(select.get(), keyColumn), *std::move(value));
+        }
+    }
+    return step == SQLITE_DONE ? std::optional(std::move(table)) : std::nullopt;
 }
 
 /// Binds a value to the parameter of its type; the others stay null.
@@ -165,19 +206,19 @@ SettingsDatabase::open(const std::filesystem::path& file) {
     return SettingsDatabase(std::move(database), std::move(upsert));
 }
 
+std::optional<DefaultsTable> SettingsDatabase::readUnchanging(const std::filesystem::path& file) {
+    sqlite3* raw = nullptr;
+    const int opened =
+        sqlite3_open_v2(unchangingFile(file).c_str(), &raw,
+                        SQLITE_OPEN_READONLY | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX, nullptr);
+    const SqliteDatabase database(raw);
+    const bool isSound = opened == SQLITE_OK && textsOf(raw, kCheck) == kSound &&
+                         textsOf(raw, kSelectSchema) == Texts{kSchema};
+    return isSound ? tableIn(raw) : std::nullopt;
+}
+
 std::optional<DefaultsTable> SettingsDatabase::readAll() const {
-    const SqliteStatement select = prepare(m_database.get(), kSelect);
-    if (!select) {
-        return std::nullopt;
-    }
-    DefaultsTable table;
-    int step = sqlite3_step(select.get());
-    for (; step == SQLITE_ROW; step = sqlite3_step(select.get())) {
-        if (auto value = valueAt(select.get())) {
-            table.insert_or_assign(bytesAt(select.get(), keyColumn), *std::move(value));
-        }
-    }
-    return step == SQLITE_DONE ? std::optional(std::move(table)) : std::nullopt;
+    return tableIn(m_database.get());
 }
 
 bool SettingsDatabase::write(std::string_view key, const DefaultsValue& value) const {

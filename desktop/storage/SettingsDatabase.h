@@ -34,6 +34,10 @@ public:
     /// quick since it is small.
     static std::variant<SettingsDatabase, Problem> open(const std::filesystem::path& file);
 
+    /// All rows of a database in a place where nothing can be written, which `open` needs; nothing
+    /// when there is none, or when it is damaged. What a log beside it still holds is left out.
+    static std::optional<DefaultsTable> readUnchanging(const std::filesystem::path& file);
+
     /// All rows, or nothing when they cannot be read.
     std::optional<DefaultsTable> readAll() const;
 

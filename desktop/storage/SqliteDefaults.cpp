@@ -68,7 +68,7 @@ SqliteDefaults::SqliteDefaults(const fs::path& configFolder) {
         open(folder / kFile);
     }
     if (!m_database) {
-        tellOfMemory("the settings in \"" + folder.string() + "\" cannot be opened");
+        tellOfMemory("the settings in \"" + folder.string() + "\" cannot be written");
     }
 }
 
@@ -87,6 +87,8 @@ void SqliteDefaults::open(const fs::path& file) {
             m_values = *std::move(values);
             m_database = std::move(*database);
         }
+    } else if (!isDamaged(opened)) {
+        m_values = SettingsDatabase::readUnchanging(file).value_or(DefaultsTable());
     }
 }
 

@@ -22,10 +22,13 @@ std::filesystem::path userConfigFolder();
 ///
 /// 1. A file that is damaged, or is no such database, is set aside under another name with its
 ///    logs, never deleted, and a new one begun.
-/// 2. A folder that cannot be made, read or written means that the session runs from memory.
+/// 2. A folder that cannot be made, read or written means that the session runs from memory,
+///    beginning with what can be read there.
 /// 3. So does a write that fails later; from then on nothing is written, and reads see every
-/// change. Each is told in one line on standard error. A number that is not one is kept for the
-/// session, and the stored value stays.
+///    change.
+///
+/// Each is told in one line on standard error. A number that is not one is kept for the session,
+/// and the stored value stays.
 ///
 /// There is no thread, no timer and no lock that outlives a call. Folder and files are the user's
 /// alone.

@@ -23,6 +23,32 @@ protected:
         ASSERT_EQ(lines.size(), 1U);
         EXPECT_NE(lines.front().find("this session only"), std::string::npos) << lines.front();
     }
+    /// Lets everybody read what stands in the folder, and nobody write.
+    void makeReadOnly() const {
+        constexpr auto everybodyReads =
+            fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read;
+        constexpr auto everybodyEnters =
+            fs::perms::owner_exec | fs::perms::group_exec | fs::perms::others_exec;
+        for (const auto& [name, contents] : files()) {
+            fs::permissions(folder() / name, everybodyReads);
+        }
+        fs::permissions(folder(), everybodyReads | everybodyEnters);
+        fs::permissions(config, everybodyEnters, fs::perm_options::add);
+    }
+
+    /// A process that does `body`, and fails when that does. The administrator may write
+    /// everywhere, so another user does it.
+    template <typename Body>
+    static pid_t asAnotherUser(Body body) {
+        return inAnotherProcess([&] {
+            constexpr uid_t nobody = 65534;
+            if (::geteuid() == 0 && ::seteuid(nobody) != 0) {
+                return false;
+            }
+            body();
+            return !HasFailure();
+        });
+    }
 };
 
 /// No file that this process writes may grow beyond `size` any more, as on a full disk.
@@ -52,20 +78,51 @@ TEST_F(UnwritableDefaults, no_config_folder_at_all_means_a_session_in_memory) {
 
 TEST_F(UnwritableDefaults, a_folder_that_may_not_be_written_means_a_session_in_memory) {
     fs::create_directories(folder());
-    fs::permissions(folder(), fs::perms::owner_read | fs::perms::owner_exec |
-                                  fs::perms::others_read | fs::perms::others_exec);
-    fs::permissions(config, fs::perms::others_exec, fs::perm_options::add);
-    // The administrator may write everywhere, so another user looks.
-    const pid_t process = inAnotherProcess([this] {
-        constexpr uid_t nobody = 65534;
-        if (::geteuid() == 0 && ::seteuid(nobody) != 0) {
-            return false;
-        }
-        expectSessionInMemory(config);
-        return !HasFailure();
-    });
+    makeReadOnly();
+    const pid_t process = asAnotherUser([this] { expectSessionInMemory(config); });
     EXPECT_EQ(statusOf(process), EXIT_SUCCESS);
     EXPECT_TRUE(fs::is_empty(folder()));
+}
+
+TEST_F(UnwritableDefaults, what_was_stored_before_the_folder_could_not_be_written_is_read) {
+    {
+        auto defaults = start();
+        defaults.setString("selectedTool", "arrow");
+        defaults.setDouble("lineWidth", 5);
+    }
+    const std::string before = contentsOf(file());
+    makeReadOnly();
+    const pid_t process = asAnotherUser([this] {
+        EXPECT_EQ(start().string("selectedTool"), "arrow");
+        expectSessionInMemory(config);
+    });
+    EXPECT_EQ(statusOf(process), EXIT_SUCCESS);
+    EXPECT_TRUE(contentsOf(file()) == before);
+    EXPECT_EQ(files().size(), 1U);
+}
+
+TEST_F(UnwritableDefaults, any_name_of_a_folder_that_cannot_be_written_is_understood) {
+    config /= "50% #1 ?";
+    fs::create_directories(config);
+    {
+        auto defaults = start();
+        defaults.setDouble("lineWidth", 5);
+    }
+    makeReadOnly();
+    fs::permissions(config.parent_path(), fs::perms::group_exec | fs::perms::others_exec,
+                    fs::perm_options::add);
+    const pid_t process =
+        asAnotherUser([this] { EXPECT_EQ(start().object("lineWidth"), DefaultsValue(5.0)); });
+    EXPECT_EQ(statusOf(process), EXIT_SUCCESS);
+    config = config.parent_path();
+}
+
+TEST_F(UnwritableDefaults, damage_where_nothing_can_be_written_means_a_session_in_memory) {
+    layDown("", "no database");
+    makeReadOnly();
+    const pid_t process = asAnotherUser([this] { expectSessionInMemory(config); });
+    EXPECT_EQ(statusOf(process), EXIT_SUCCESS);
+    EXPECT_EQ(contentsOf(file()), "no database");
 }
 
 TEST_F(UnwritableDefaults, a_disk_that_fills_up_later_is_told_once_and_reads_see_the_new_values) {
