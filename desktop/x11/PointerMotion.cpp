@@ -6,8 +6,9 @@ namespace {
 
 constexpr std::uint32_t kPrimaryBit = 1U << 1U;
 
+/// Cut off as the toolkit does, also to the left of a window.
 int wholePixels(xcb_input_fp1616_t value) {
-    return value >> 16;
+    return value / 0x10000;
 }
 
 bool isMotion(const xcb_generic_event_t& event, std::uint8_t inputExtension) {

@@ -146,6 +146,15 @@ TEST_F(DirectDragTest, the_motion_that_the_toolkit_makes_up_before_the_release_i
     EXPECT_FALSE(drag.isMadeUp(mouseEvent(QEvent::MouseMove, {20, 30})));
 }
 
+TEST_F(DirectDragTest, a_place_to_the_left_of_the_window_is_the_pixel_that_the_toolkit_names) {
+    deliver(QEvent::MouseButtonPress);
+    MotionEvent between = motionTo({0, 30});
+    between.motion.event_x = -(3 << 16) - (1 << 14);
+    takes(between);
+    EXPECT_EQ(moves, (std::vector<QPointF>{{-3, 30}}));
+    EXPECT_TRUE(drag.isMadeUp(mouseEvent(QEvent::MouseMove, {-3, 30})));
+}
+
 TEST_F(DirectDragTest, nothing_is_taken_once_the_drag_has_ended) {
     deliver(QEvent::MouseButtonPress);
     drag.end();
