@@ -1,18 +1,14 @@
 #include "settings/AboutSettingsView.h"
 
 #include "platform/Host.h"
+#include "platform/ProgramIcon.h"
 
 namespace quillon {
 
 namespace {
 
-/// The asset if the program came with it, else the symbol that stands for it in the tray as well.
 std::optional<Image> icon() {
-    const auto& images = Host::current().images();
-    auto image = images.named("QuillonIcon");
-    if (!image) {
-        image = images.symbol("pencil.and.outline", "");
-    }
+    auto image = programIcon(Host::current().images(), "pencil.and.outline", "");
     if (image) {
         image->size = AboutPage::iconSize;
     }

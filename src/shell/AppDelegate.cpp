@@ -6,6 +6,7 @@
 #include "model/AppSettings.h"
 #include "model/NotificationNames.h"
 #include "platform/Host.h"
+#include "platform/ProgramIcon.h"
 #include "settings/SettingsView.h"
 #include "shell/StatusMenu.h"
 #include "shortcuts/HotkeyManager.h"
@@ -20,7 +21,6 @@ namespace quillon {
 
 namespace {
 
-constexpr std::string_view kIconAsset = "QuillonIcon";
 constexpr std::string_view kIdleSymbol = "pencil.and.outline";
 constexpr std::string_view kDrawingSymbol = "pencil.and.outline.fill";
 constexpr std::string_view kIconDescription = "Orvalis Clone";
@@ -66,14 +66,12 @@ std::unique_ptr<Window> makeSettingsWindow() {
     return window;
 }
 
-/// The asset if the program came with it, else the symbol, if the host has it.
 std::optional<Image> statusImage(std::string_view symbol) {
-    const auto& images = Host::current().images();
-    if (auto asset = images.named(kIconAsset)) {
-        asset->size = kIconSize;
-        return asset;
+    auto image = programIcon(Host::current().images(), symbol, kIconDescription);
+    if (image && image->kind == Image::Kind::asset) {
+        image->size = kIconSize;
     }
-    return images.symbol(symbol, kIconDescription);
+    return image;
 }
 
 void showImage(StatusBarButton& button, std::string_view symbol) {
