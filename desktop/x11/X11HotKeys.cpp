@@ -107,7 +107,11 @@ bool X11HotKeys::handleEvent(const xcb_generic_event_t& event) {
 bool X11HotKeys::handleKeyPress(const xcb_key_press_event_t& event) {
     // The keys of the program's own windows count too: a shortcut may be registered while the keys
     // that were pressed to record it are still down.
-    const HeldKeys::Press press = m_heldKeys.pressed(event.detail, event.time);
+    // One that comes to a window may end the grab or the window that brought it, as the shortcut
+    // does that takes away an open menu.
+    const auto release =
+        event.event == m_root ? HeldKeys::Release::heard : HeldKeys::Release::perhapsMissed;
+    const HeldKeys::Press press = m_heldKeys.pressed(event.detail, event.time, release);
     const auto modifiers =
         static_cast<std::uint16_t>(event.state & modifierBits & ~m_keyboard.modifiers.locks());
     const HotKey* hotKey = holderOf({event.detail, modifiers});

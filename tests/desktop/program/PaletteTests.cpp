@@ -265,6 +265,22 @@ TEST_P(PaletteWhileOpen, the_shortcut_takes_it_away_with_its_menu_or_its_popover
     drawLine();
 }
 
+TEST_F(Palette, the_shortcut_that_took_away_an_open_menu_brings_the_palette_back_at_once) {
+    startWithPalette();
+    input.click(at(kColor));
+    ASSERT_TRUE(showsPanel({kCenter.x + kColor + 100, kCenter.y + 40}));
+    // A hand lets go later than the menu does, and by then the keyboard is elsewhere.
+    input.keyDown("Super_L");
+    input.keyDown("Shift_L");
+    input.keyDown("s");
+    EXPECT_TRUE(showsBackground(at(kBody)));
+    input.keyUp("s");
+    input.tap("s");
+    input.keyUp("Shift_L");
+    input.keyUp("Super_L");
+    EXPECT_TRUE(showsPanel(at(kBody)));
+}
+
 INSTANTIATE_TEST_SUITE_P(MenuAndPopover, PaletteWhileOpen, testing::Values(1, 3));
 
 TEST_F(Palette, a_quick_colour_is_removed_by_its_context_menu_and_the_popover_stays) {
