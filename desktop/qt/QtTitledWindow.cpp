@@ -16,6 +16,7 @@
 #include <malloc.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillon::desktop {
 
@@ -67,7 +68,12 @@ Qt::WindowFlags flagsOf(const Window& window) {
 class QtTitledWindow::Widget : public QWidget {
 public:
     explicit Widget(Window& window)
-        : m_window(window) {}
+        : m_window(window) {
+        for (const QScreen* screen : QGuiApplication::screens()) {
+            connect(screen, &QScreen::logicalDotsPerInchChanged, this, &Widget::followScale,
+                    Qt::QueuedConnection);
+        }
+    }
     ~Widget() override {
         // The controls refer to the content.
         qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
@@ -89,8 +95,21 @@ protected:
     }
 
 private:
+    /// Of a window that changes its scale the toolkit keeps the pixels, in which its content has no
+    /// room any more. Another one is made with as many as it needs, in the middle, since the old
+    /// place may lie beyond the screen.
+    void followScale() {
+        if (isVisible() && std::exchange(m_scale, devicePixelRatio()) != devicePixelRatio()) {
+            hide();
+            destroy();
+            m_window.center();
+            show();
+        }
+    }
+
     Window& m_window;
     bool m_isClosing = false;
+    qreal m_scale = devicePixelRatio();
 };
 
 QtTitledWindow::QtTitledWindow(Window& window, Application& application,

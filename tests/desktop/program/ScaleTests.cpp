@@ -1,4 +1,4 @@
-#include "desktop/program/ProgramTest.h"
+#include "desktop/program/SettingsTest.h"
 #include "desktop/support/DesktopScale.h"
 
 namespace quillon::test {
@@ -49,6 +49,33 @@ TEST_F(Scale, the_spotlight_has_its_radius_in_points_after_a_change) {
         EXPECT_TRUE(screen.waitForColor({x + 124, 300}, dimmed)) << x;
         EXPECT_TRUE(screen.waitForColor({10, 590}, dimmed)) << x;
     }
+}
+
+/// The settings on a screen with room for them at twice their size.
+class SettingsAtAnotherScale : public SettingsTest {
+protected:
+    SettingsAtAnotherScale()
+        : SettingsTest({.width = 1400, .height = 1200}) {}
+
+    DesktopScale scale{desktop.display(), 100};
+};
+
+TEST_F(SettingsAtAnotherScale, the_window_has_room_for_its_content_and_can_be_used) {
+    startAndOpen();
+    const int widthBefore = width;
+    scale.change(200);
+    ASSERT_TRUE(eventually([&] {
+        return titled(kTitle).size() == 1 &&
+               desktop.connection().place(titled(kTitle).front()).width == 2 * widthBefore;
+    }));
+    const auto place = desktop.connection().place(titled(kTitle).front());
+    const Pixel content{place.x, place.y + place.height - 2 * 500};
+    const Pixel tab{content.x + 2 * 150, content.y + 2 * 28};
+    const Pixel ground{content.x + 2 * 108, content.y + 2 * 50};
+    ASSERT_TRUE(screen.waitForPixel(ground, [](Rgb seen) { return !isSelected(seen); }));
+    input.click(tab);
+    EXPECT_TRUE(screen.waitForPixel(ground, isSelected));
+    EXPECT_TRUE(screen.waitForPixel({content.x + 2 * 590, content.y + 2 * 490}, isPage));
 }
 
 } // namespace
