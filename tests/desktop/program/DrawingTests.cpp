@@ -7,7 +7,25 @@
 namespace quillon::test {
 namespace {
 
-using Drawing = ProgramTest;
+class Drawing : public ProgramTest {
+protected:
+    /// Where the pointer turns on its way up and down.
+    static std::vector<Pixel> zigzag() {
+        std::vector<Pixel> tips;
+        for (int tooth = 0; tooth < 60; ++tooth) {
+            tips.push_back({100 + tooth * 12, tooth % 2 == 0 ? 150 : 350});
+        }
+        return tips;
+    }
+    /// Whether a stroke that was drawn by one motion from tip to tip passes all of them: a lost
+    /// motion would cut the tip of a tooth.
+    void expectInkAtTips(const std::vector<Pixel>& tips) {
+        // The curve passes near its second point and through all later ones.
+        for (std::size_t tip = 2; tip < tips.size(); ++tip) {
+            EXPECT_TRUE(showsInk(tips[tip])) << "tooth " << tip;
+        }
+    }
+};
 
 TEST_F(Drawing, the_pen_leaves_its_line) {
     prepareTool(DrawingTool::pen);
@@ -33,21 +51,44 @@ TEST_F(Drawing, the_line_is_seen_while_the_button_is_still_down) {
 TEST_F(Drawing, every_place_that_the_pointer_passed_becomes_a_point) {
     prepareTool(DrawingTool::pen, 6);
     startAnnotating();
-    // Faster than it can be painted: a lost motion would cut the tip of a tooth.
-    std::vector<Pixel> tips;
-    for (int tooth = 0; tooth < 60; ++tooth) {
-        tips.push_back({100 + tooth * 12, tooth % 2 == 0 ? 150 : 350});
-    }
+    // Faster than it can be painted.
+    const std::vector<Pixel> tips = zigzag();
     input.moveTo(tips.front());
     input.press();
     for (const Pixel tip : tips) {
         input.moveTo(tip);
     }
     input.release();
-    // The curve passes near its second point and through all later ones.
-    for (std::size_t tip = 2; tip < tips.size(); ++tip) {
-        EXPECT_TRUE(showsInk(tips[tip])) << "tooth " << tip;
+    expectInkAtTips(tips);
+}
+
+TEST_F(Drawing, no_place_is_lost_where_keys_other_buttons_and_the_wheel_meet_a_stroke) {
+    prepareTool(DrawingTool::pen, 6);
+    startAnnotating();
+    const std::vector<Pixel> tips = zigzag();
+    input.moveTo(tips.front());
+    input.press();
+    for (std::size_t tip = 0; tip < tips.size(); ++tip) {
+        input.moveTo(tips[tip]);
+        switch (tip % 5) {
+        case 0:
+            input.tap("a");
+            break;
+        case 1:
+            input.press(3);
+            break;
+        case 2:
+            input.release(3);
+            break;
+        case 3:
+            input.click(tips[tip], 4);
+            break;
+        default:
+            input.chord({"Super_L", "Shift_L", "h"});
+        }
     }
+    input.release();
+    expectInkAtTips(tips);
 }
 
 TEST_F(Drawing, a_quick_ring_that_passes_its_own_start_is_whole) {
