@@ -13,7 +13,6 @@ void QtApplication::activate(bool /*ignoringOtherApps*/) {
         if (window->isVisible() && !(window->flags() & Qt::BypassWindowManagerHint) &&
             window->type() == Qt::Window) {
             window->raise();
-            window->requestActivate();
         }
     }
 }

@@ -10,25 +10,6 @@ protected:
         EXPECT_TRUE(eventually([this] { return below.hasKeyboard(); }));
     }
 
-    /// Whether any pixel of the row holds ink between the two columns.
-    bool hasInkInRow(int y, int left, int right) {
-        for (int x = left; x < right; ++x) {
-            if (isNear(screen.pixel({x, y}), kInk, 60)) {
-                return true;
-            }
-        }
-        return false;
-    }
-    bool showsText(Pixel topLeft) {
-        return eventually([&] {
-            for (int y = topLeft.y + 8; y < topLeft.y + 26; y += 2) {
-                if (hasInkInRow(y, topLeft.x, topLeft.x + 60)) {
-                    return true;
-                }
-            }
-            return false;
-        });
-    }
     void openFieldAt(Pixel place) {
         prepareTool(DrawingTool::text);
         startAnnotating();

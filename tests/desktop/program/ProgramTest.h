@@ -78,6 +78,26 @@ protected:
     }
 
     bool showsInk(Pixel place) { return screen.waitForColor(place, kInk); }
+    /// Whether any pixel of the row holds ink between the two columns.
+    bool hasInkInRow(int y, int left, int right) {
+        for (int x = left; x < right; ++x) {
+            if (isNear(screen.pixel({x, y}), kInk, 60)) {
+                return true;
+            }
+        }
+        return false;
+    }
+    /// Whether ink comes up where a text stands that was begun at this place.
+    bool showsText(Pixel topLeft) {
+        return eventually([&] {
+            for (int y = topLeft.y + 8; y < topLeft.y + 26; y += 2) {
+                if (hasInkInRow(y, topLeft.x, topLeft.x + 60)) {
+                    return true;
+                }
+            }
+            return false;
+        });
+    }
     bool showsBackground(Pixel place) { return screen.waitForColor(place, kBackground); }
 
     VirtualDesktop desktop;

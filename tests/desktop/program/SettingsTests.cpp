@@ -171,6 +171,18 @@ TEST_F(SettingsOnScreen, annotation_switched_on_later_leaves_the_window_in_reach
     EXPECT_TRUE(isOn(switchOf(0, 1)));
 }
 
+TEST_F(SettingsOnScreen, text_can_be_typed_beside_the_window) {
+    prepareTool(DrawingTool::text);
+    startAndOpen();
+    toggleAnnotation();
+    ASSERT_TRUE(isAnnotating());
+    input.click({60, 500});
+    ASSERT_TRUE(screen.waitForPixel({140, 500}, [](Rgb seen) { return seen.red > 200; }));
+    input.type("Hill");
+    input.tap("Return");
+    EXPECT_TRUE(showsText({60, 500}));
+}
+
 TEST_F(SettingsOnScreen, the_spotlight_dims_the_desktop_from_here) {
     startAndOpen();
     showTab(spotlight);
