@@ -25,7 +25,6 @@
 
 #include <QApplication>
 #include <QScreen>
-#include <QSocketNotifier>
 #include <QThreadPool>
 #include <unistd.h>
 
@@ -129,11 +128,6 @@ int run(QApplication& application, xcb_connection_t* connection) {
     screens.setChangeHandler([&] {
         host.notificationCenter().post(NSApplicationDidChangeScreenParametersNotification);
     });
-    // The toolkit reads events in a second thread, which then wakes this one. Woken by the arrival
-    // itself, this one is up by the time that they are read: the way to the screen is a tenth
-    // shorter.
-    const QSocketNotifier wakesOnArrival(xcb_get_file_descriptor(connection),
-                                         QSocketNotifier::Read);
     const UnixSignals signalsToEnd([&] { system.terminate(); });
 
     app.appDelegate().applicationDidFinishLaunching();

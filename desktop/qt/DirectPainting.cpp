@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <cstring>
 #include <utility>
 
 namespace quillon::desktop {
@@ -71,13 +72,18 @@ void DirectPainting::follow(QImage& picture) {
 }
 
 void DirectPainting::paint(const QRect& rect) {
-    m_painter.save();
+    clear(devicePixels(fromQRectF(rect), m_pixels.devicePixelRatio()));
     m_painter.setClipRect(rect);
-    m_painter.setCompositionMode(QPainter::CompositionMode_Clear);
-    m_painter.fillRect(rect, Qt::transparent);
     m_painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    m_painter.setOpacity(1);
     m_paint(m_painter, rect);
-    m_painter.restore();
+}
+
+void DirectPainting::clear(const QRect& pixels) {
+    const auto rowLength = static_cast<std::size_t>(pixels.width()) * sizeof(QRgb);
+    for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
+        std::memset(m_pixels.scanLine(y) + pixels.left() * sizeof(QRgb), 0, rowLength);
+    }
 }
 
 } // namespace quillon::desktop

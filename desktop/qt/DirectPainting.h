@@ -23,7 +23,8 @@ QImage* premultipliedImage(QBackingStore& store);
 /// several parts.
 class DirectPainting {
 public:
-    /// Paints what stands in the rectangle, in points of the widget, over full transparency.
+    /// Paints what stands in the rectangle, in points of the widget, over full transparency. Leaves
+    /// the painter's transform as it was.
     using Paint = std::function<void(QPainter&, const QRect&)>;
 
     /// `connection` is the toolkit's; with none, nothing can be put.
@@ -37,6 +38,7 @@ public:
 private:
     void follow(QImage& picture);
     void paint(const QRect& rect);
+    void clear(const QRect& pixels);
 
     const QWidget& m_widget;
     PixelUpload m_upload;
