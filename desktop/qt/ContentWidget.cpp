@@ -149,6 +149,7 @@ void ContentWidget::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     paintRegion(painter, event->region());
     m_paintedSize = size();
+    tellOutline();
 }
 
 void ContentWidget::paintRegion(QPainter& painter, const QRegion& region) {

@@ -135,8 +135,10 @@ void QtWindow::grabPointerIfNeeded() {
 }
 
 void QtWindow::confirmGrab() {
-    if (m_grabsPointer && !PopupWatch::isPopupOpen()) {
-        m_widget.windowHandle()->setMouseGrabEnabled(true);
+    if (m_grabsPointer && !PopupWatch::isPopupOpen() &&
+        !m_widget.windowHandle()->setMouseGrabEnabled(true)) {
+        // A press came in between, and somebody else has the pointer until its release.
+        QTimer::singleShot(kGrabAgain, &m_widget, [this] { confirmGrab(); });
     }
 }
 

@@ -434,9 +434,11 @@ TEST_F(CursorHaloWithoutCompositor, the_overlay_that_holds_the_pointer_holds_the
     toggleAnnotation();
     ASSERT_TRUE(eventually([this] {
         const int before = below.pressCount();
+        if (!isPointerHeld()) {
+            return false;
+        }
         input.click({700, 500}, 3);
-        return eventually([this] { return !squareWindows(120).empty(); },
-                          std::chrono::milliseconds(300)) &&
+        return eventually([this] { return !squareWindows(120).empty(); }) && isPointerHeld() &&
                below.pressCount() == before;
     }));
     const auto before = cornerOf(squareWindows(40).at(0));

@@ -339,6 +339,7 @@ TEST_F(PaletteWithoutCompositor, drawing_goes_on_after_a_menu_and_after_the_popo
     ASSERT_TRUE(showsPanel(entry(kTool, 4)));
     input.click(entry(kTool, 0));
     ASSERT_TRUE(showsBackground(entry(kTool, 4)));
+    ASSERT_TRUE(eventually([this] { return isPointerHeld(); }));
     input.drag({{100, 400}, {300, 400}});
     EXPECT_TRUE(showsInk({200, 400}));
 
@@ -346,6 +347,7 @@ TEST_F(PaletteWithoutCompositor, drawing_goes_on_after_a_menu_and_after_the_popo
     ASSERT_TRUE(showsPanel({kCenter.x - 120, 400}));
     input.tap("Escape");
     ASSERT_TRUE(showsBackground({kCenter.x - 120, 440}));
+    ASSERT_TRUE(eventually([this] { return isPointerHeld(); }));
     const int before = below.pressCount();
     input.drag({{100, 450}, {300, 450}});
     EXPECT_TRUE(showsInk({200, 450}));

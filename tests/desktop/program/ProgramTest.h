@@ -77,6 +77,22 @@ protected:
         return pointer && pointer->child != XCB_NONE && pointer->child != childBefore;
     }
 
+    /// Whether a program holds the pointer as a whole.
+    bool isPointerHeld() {
+        xcb_connection_t* connection = desktop.connection().get();
+        // Nobody is to see this grab come and go.
+        xcb_grab_server(connection);
+        const XOwned<xcb_grab_pointer_reply_t> grab(xcb_grab_pointer_reply(
+            connection,
+            xcb_grab_pointer(connection, 0, desktop.connection().root(), 0, XCB_GRAB_MODE_ASYNC,
+                             XCB_GRAB_MODE_ASYNC, XCB_NONE, XCB_NONE, XCB_CURRENT_TIME),
+            nullptr));
+        xcb_ungrab_pointer(connection, XCB_CURRENT_TIME);
+        xcb_ungrab_server(connection);
+        desktop.connection().synchronise();
+        return grab && grab->status == XCB_GRAB_STATUS_ALREADY_GRABBED;
+    }
+
     bool showsInk(Pixel place) { return screen.waitForColor(place, kInk); }
     /// Whether any pixel of the row holds ink between the two columns.
     bool hasInkInRow(int y, int left, int right) {

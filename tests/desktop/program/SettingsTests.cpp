@@ -117,6 +117,9 @@ TEST_F(SettingsOnScreen, a_slider_dragged_to_its_end_writes_the_maximum) {
     startAndOpen();
     showTab(annotation);
     input.drag({row(1, 1, 330), row(1, 1, 560)});
+    // Beside the knob at the end: what has not been worked yet, the end of the program would cut
+    // off.
+    EXPECT_TRUE(screen.waitForPixel(row(1, 1, 470), isAccent));
     stop();
     EXPECT_EQ(stored<double>([](AppSettings& settings) { return settings.lineWidth.get(); }), 30);
 }

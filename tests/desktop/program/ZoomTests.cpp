@@ -67,8 +67,8 @@ protected:
         return shows;
     }
 
-    bool prints(std::string_view text) {
-        return program->process().standardOutput().find(text) != std::string::npos;
+    bool prints(std::string_view text, std::size_t from = 0) {
+        return program->process().standardOutput().find(text, from) != std::string::npos;
     }
 
     int sharedSegments() {
@@ -243,9 +243,15 @@ TEST_F(Zoom, a_display_that_goes_ends_the_stream_and_the_lens_comes_back_when_sw
                prints("Attempting to restart screen capture...\n") &&
                prints("Available displays: 0\n");
     })) << program->process().standardOutput();
+    const std::size_t before = program->process().standardOutput().size();
     changeScreenSize(desktop.connection(), 900, 600);
-    toggleZoom();
-    toggleZoom();
+    // Not before the program has heard of the display.
+    ASSERT_TRUE(eventually([&] {
+        toggleZoom();
+        toggleZoom();
+        return eventually([&] { return prints("Available displays: 1\n", before); },
+                          std::chrono::milliseconds(500));
+    }));
     input.moveTo({310, 310});
     EXPECT_TRUE(showsMagnified({310, 310}, 4));
 }
