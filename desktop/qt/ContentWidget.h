@@ -23,8 +23,8 @@ class TextFieldWidget;
 ///
 /// One update, some time after the view asked for it and after all input that has arrived by then:
 /// 1. the view says where its picture has changed;
-/// 2. that part is painted and put on the screen at once;
-/// 3. the text field and the controls come, go or change as the view says.
+/// 2. the text field and the controls come, go or change as the view says;
+/// 3. the part that has changed is painted and put on the screen at once.
 class ContentWidget : public QWidget {
 public:
     /// `connection` is the toolkit's, where it has one.
