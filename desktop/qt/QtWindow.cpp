@@ -22,6 +22,20 @@ namespace {
 
 constexpr std::chrono::milliseconds kGrabAgain{30};
 constexpr int kGrabConfirmations = 5;
+/// In which a window manager has carried out a change of which it has told the beginning.
+constexpr std::chrono::milliseconds kSettled{100};
+
+std::vector<xcb_rectangle_t> toXRectangles(const QRegion& region) {
+    std::vector<xcb_rectangle_t> rectangles;
+    for (const QRect& rect : region) {
+        rectangles.push_back(toXRectangle(rect));
+    }
+    return rectangles;
+}
+
+QRect toQRect(const xcb_rectangle_t& rect) {
+    return {rect.x, rect.y, rect.width, rect.height};
+}
 
 } // namespace
 
@@ -31,7 +45,8 @@ QtWindow::QtWindow(Window& window, const Surroundings& surroundings)
     , m_keyboard(surroundings.connection)
     , m_widget(surroundings.connection, [this] { takeKeyboard(); })
     , m_placement(m_widget, surroundings.connection)
-    , m_compositorChange(surroundings.compositor.changed.sink([this] { followCompositor(); })) {
+    , m_compositorChange(surroundings.compositor.changed.sink([this] { followCompositor(); }))
+    , m_panelsChange(surroundings.panels.changed.sink([this] { followPanelsLater(); })) {
     m_widget.setWindowFlags(Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint |
                             Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint | Qt::Tool);
     QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, &m_widget,
@@ -39,7 +54,7 @@ QtWindow::QtWindow(Window& window, const Surroundings& surroundings)
     // Already before it is seen: a press at once after would meet it.
     m_widget.onAboutToShow = [this] { stayBelowTitledWindow(); };
     m_widget.onEditingChanged = [this] { giveBackKeyboardIfUnused(); };
-    m_widget.onControlsPlaced = [this](const QRect& place) { blurBehind(place); };
+    m_widget.onControlsPlaced = [this](const QRect& place) { followControls(place); };
     m_widget.isMereMove = [this](const xcb_configure_notify_event_t& event) {
         return m_window.ignoresMouseEvents() && m_placement.isMereMove(event);
     };
@@ -58,17 +73,17 @@ QtWindow::~QtWindow() {
 void QtWindow::setFrame(const CGRect& frame) {
     const auto& content = m_window.contentView();
     m_placement.setFrame(frame.outset(content ? content->rootView->overflow() : 0));
+    followPanels();
 }
 
 void QtWindow::display() {
     m_widget.display();
 }
 
-void QtWindow::setIgnoresMouseEvents(bool ignores) {
+void QtWindow::setIgnoresMouseEvents(bool /*ignores*/) {
     stayBelowTitledWindow();
     grabPointerIfNeeded();
-    setInputRegion(m_surroundings.connection, nativeWindow(),
-                   ignores ? InputRegion::empty : InputRegion::window);
+    followPanels();
     giveBackKeyboardIfUnused();
 }
 
@@ -142,6 +157,45 @@ void QtWindow::confirmGrab() {
     }
 }
 
+void QtWindow::followInputRegion() {
+    if (m_window.ignoresMouseEvents()) {
+        setInputRegion(m_surroundings.connection, nativeWindow(), InputRegion::empty);
+        return;
+    }
+    const QRect frame = m_placement.pixels();
+    QRegion panels = m_panels.translated(-frame.topLeft());
+    // A press on the controls is meant for them also where they stand over a panel.
+    panels -= m_controlsPlace;
+    if (panels.isEmpty()) {
+        setInputRegion(m_surroundings.connection, nativeWindow(), InputRegion::window);
+    } else {
+        setInputRegion(m_surroundings.connection, nativeWindow(),
+                       toXRectangles(QRegion(QRect(QPoint(), frame.size())) - panels));
+    }
+}
+
+void QtWindow::followPanels() {
+    m_panels = QRegion();
+    if (!m_window.ignoresMouseEvents()) {
+        for (const xcb_rectangle_t& panel : m_surroundings.panels.inSight()) {
+            m_panels += toQRect(panel);
+        }
+    }
+    followInputRegion();
+}
+
+void QtWindow::followPanelsLater() {
+    if (!m_window.ignoresMouseEvents()) {
+        QTimer::singleShot(kSettled, &m_widget, [this] { followPanels(); });
+    }
+}
+
+void QtWindow::followControls(const QRect& place) {
+    m_controlsPlace = place;
+    followInputRegion();
+    blurBehind(place);
+}
+
 void QtWindow::blurBehind(const QRect& place) {
     setBlurBehind(m_surroundings.connection, nativeWindow(),
                   place.isEmpty() ? std::nullopt : std::optional(toXRectangle(place)));
@@ -153,11 +207,7 @@ void QtWindow::noteGrab(bool grabs) {
 }
 
 void QtWindow::takeOutline(const QRegion& outline) {
-    std::vector<xcb_rectangle_t> rectangles;
-    for (const QRect& rect : outline) {
-        rectangles.push_back(toXRectangle(rect));
-    }
-    setOutline(m_surroundings.connection, nativeWindow(), rectangles);
+    setOutline(m_surroundings.connection, nativeWindow(), toXRectangles(outline));
 }
 
 void QtWindow::makeKeyAndOrderFront() {

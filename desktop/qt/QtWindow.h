@@ -5,9 +5,13 @@
 #include "desktop/qt/WindowPlacement.h"
 #include "desktop/x11/CompositorWatch.h"
 #include "desktop/x11/KeyboardFocus.h"
+#include "desktop/x11/Panels.h"
 #include "foundation/Cancellable.h"
 #include "platform/Window.h"
 #include "platform/WindowBackend.h"
+
+#include <QRect>
+#include <QRegion>
 
 #include <xcb/xcb.h>
 
@@ -20,14 +24,17 @@ namespace quillon::desktop {
 /// it stands on every desktop, over full-screen programs, and in no list of windows.
 ///
 /// It lets the pointer through by an empty input region, which is in force before the window first
-/// comes on the screen and is switched without unmapping it. The first press in it brings it the
-/// keyboard; once it lets the pointer through and no text is being typed, the keyboard goes back.
+/// comes on the screen and is switched without unmapping it. Where it takes the pointer, the panels
+/// of the desktop stay in reach: the menu of the status item is there at any moment. The first
+/// press in it brings it the keyboard; once it lets the pointer through and no text is being typed,
+/// the keyboard goes back.
 class QtWindow : public WindowBackend {
 public:
     /// What the windows of the program share.
     struct Surroundings {
         xcb_connection_t* connection;
         CompositorWatch& compositor;
+        Panels& panels;
         /// How many windows hold the pointer as a whole.
         int& pointerHolders;
         /// Those there are.
@@ -58,6 +65,12 @@ private:
     void grabPointerIfNeeded();
     void confirmGrab();
     void noteGrab(bool grabs);
+    /// Says where the window takes the pointer.
+    void followInputRegion();
+    /// Asks where the panels are.
+    void followPanels();
+    void followPanelsLater();
+    void followControls(const QRect& place);
     void takeOutline(const QRegion& outline);
     void blurBehind(const QRect& place);
     void takeKeyboard();
@@ -71,7 +84,12 @@ private:
     WindowPlacement m_placement;
     bool m_grabsPointer = false;
     std::optional<PopupWatch> m_popups;
+    /// In device pixels of the root window; empty while the window lets the pointer through.
+    QRegion m_panels;
+    /// In device pixels of the window; empty when there are none.
+    QRect m_controlsPlace;
     Cancellable m_compositorChange;
+    Cancellable m_panelsChange;
 };
 
 } // namespace quillon::desktop

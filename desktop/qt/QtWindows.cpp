@@ -9,7 +9,8 @@ std::unique_ptr<WindowBackend> QtWindows::makeWindow(Window& window) {
         return std::make_unique<QtTitledWindow>(window, m_application, m_layOutControls);
     }
     return std::make_unique<QtWindow>(
-        window, QtWindow::Surroundings{m_connection, m_compositor, m_pointerHolders, m_windows});
+        window,
+        QtWindow::Surroundings{m_connection, m_compositor, m_panels, m_pointerHolders, m_windows});
 }
 
 bool QtWindows::hide(const xcb_rectangle_t& rect) const {

@@ -21,7 +21,8 @@ public:
         : m_connection(connection)
         , m_application(application)
         , m_layOutControls(std::move(layOutControls))
-        , m_compositor(connection) {}
+        , m_compositor(connection)
+        , m_panels(connection) {}
 
     std::unique_ptr<WindowBackend> makeWindow(Window& window) override;
 
@@ -35,13 +36,17 @@ public:
 
     /// To be given every event of the connection, in order. True when the event was meant for the
     /// windows and should go no further.
-    bool handleEvent(const xcb_generic_event_t& event) { return m_compositor.handleEvent(event); }
+    bool handleEvent(const xcb_generic_event_t& event) {
+        m_panels.handleEvent(event);
+        return m_compositor.handleEvent(event);
+    }
 
 private:
     xcb_connection_t* m_connection;
     Application& m_application;
     ControlsLayout m_layOutControls;
     CompositorWatch m_compositor;
+    Panels m_panels;
     int m_pointerHolders = 0;
     std::set<const QtWindow*> m_windows;
 };

@@ -17,6 +17,10 @@ enum class InputRegion {
 /// stays as it is.
 void setInputRegion(xcb_connection_t* connection, xcb_window_t window, InputRegion region);
 
+/// The same for a part that is made of these rectangles, in device pixels of the window.
+void setInputRegion(xcb_connection_t* connection, xcb_window_t window,
+                    std::span<const xcb_rectangle_t> rectangles);
+
 /// Gives a window the outline of these rectangles, in device pixels of the window. With none of
 /// them nothing of it is to be seen.
 void setOutline(xcb_connection_t* connection, xcb_window_t window,

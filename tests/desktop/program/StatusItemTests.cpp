@@ -132,6 +132,47 @@ TEST_F(TrayItem, the_menu_opens_over_a_drawing_left_standing_and_switches_annota
     EXPECT_TRUE(showsInk({400, 200}));
 }
 
+TEST_F(TrayItem, its_menu_switches_annotation_off_again) {
+    prepareTool(DrawingTool::pen);
+    desktop.startTray();
+    startAnnotating();
+    openMenu();
+    input.tap("Down");
+    input.tap("Return");
+    ASSERT_TRUE(isMenuClosed());
+    input.moveTo({300, 300});
+    EXPECT_TRUE(eventually([this] { return !takesPointer(); }));
+}
+
+TEST_F(TrayItem, a_palette_that_stands_over_the_panel_takes_its_clicks) {
+    prepare([](AppSettings& settings) { settings.toolbarPosition = ToolbarPosition{450, 15}; });
+    desktop.startTray();
+    startAnnotating();
+    ASSERT_TRUE(screen.waitForPixel({300, 40}, [](Rgb seen) { return seen.red > 180; }));
+    const Pixel whiteboardButton{458, 15};
+    input.click(whiteboardButton);
+    EXPECT_TRUE(screen.waitForPixel({450, 500}, [](Rgb seen) { return seen.red > 225; }));
+}
+
+TEST_F(TrayItem, a_program_that_fills_the_screen_is_drawn_on_where_the_panel_is_hidden) {
+    prepareTool(DrawingTool::pen);
+    desktop.startTray();
+    startAnnotating();
+    ProbeWindow film(desktop.display(), {100, 100, 300, 200}, {20, 120, 20});
+    film.activate();
+    film.fillScreen();
+    ASSERT_TRUE(screen.waitForColor({890, 10}, {20, 120, 20}));
+    // The window manager tells of a film before it fills the screen.
+    EXPECT_TRUE(eventually([this] {
+        input.drag({{100, 15}, {300, 15}});
+        return screen.waitForColor({200, 15}, kInk, std::chrono::milliseconds(100));
+    }));
+    const int before = film.pressCount();
+    input.drag({{100, 10}, {300, 10}});
+    EXPECT_TRUE(showsInk({200, 10}));
+    EXPECT_EQ(film.pressCount(), before);
+}
+
 TEST_F(TrayItem, it_is_an_outline_and_filled_while_annotation_is_on) {
     desktop.startTray();
     start();
