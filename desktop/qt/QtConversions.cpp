@@ -41,7 +41,10 @@ QPainterPath toQPainterPath(const Path& path) {
 }
 
 QPen toQPen(const Color& color, const StrokeStyle& style) {
-    return QPen(toQColor(color), style.lineWidth, Qt::SolidLine,
+    // A line no wider than a pixel goes another way through the toolkit, on which a part of it that
+    // is painted by itself does not get the pixels that it has in the whole.
+    constexpr CGFloat smallestWidth = 1.001;
+    return QPen(toQColor(color), std::max(style.lineWidth, smallestWidth), Qt::SolidLine,
                 style.lineCap == LineCap::round ? Qt::RoundCap : Qt::FlatCap,
                 style.lineJoin == LineJoin::round ? Qt::RoundJoin : Qt::MiterJoin);
 }
