@@ -105,6 +105,9 @@ StrokeList::Difference StrokeList::difference(const StrokeList& before, const St
             difference.removed.push_back(gone);
         } else if (!isBefore) {
             difference.added.push_back(come);
+        } else if (gone->stroke().id() != come->stroke().id()) {
+            difference.removed.push_back(gone);
+            difference.added.push_back(come);
         } else if (gone != come) {
             difference.replaced.push_back({gone, come});
         }

@@ -83,7 +83,7 @@ public:
         };
         std::vector<StrokeRef> removed;
         std::vector<StrokeRef> added;
-        /// Two strokes of the same place in the order.
+        /// Two forms of the same stroke.
         std::vector<Replacement> replaced;
 
         bool isEmpty() const { return removed.empty() && added.empty() && replaced.empty(); }

@@ -109,10 +109,23 @@ TEST(StrokeList, the_difference_is_that_of_the_two_sets) {
     }
 }
 
+TEST(StrokeList, two_strokes_in_the_same_place_are_no_two_forms_of_one) {
+    StrokeList before = listOf(600);
+    StrokeList after = before;
+    before.append(freehand({{5, 5}, {6, 6}}));
+    after.append(freehand({{7, 7}, {8, 8}}));
+    const auto difference = StrokeList::difference(before, after);
+    EXPECT_TRUE(difference.replaced.empty());
+    EXPECT_EQ(difference.removed, std::vector{before.ref(600)});
+    EXPECT_EQ(difference.added, std::vector{after.ref(600)});
+}
+
 TEST(StrokeList, a_replaced_stroke_is_told_together_with_the_one_in_its_place) {
     const StrokeList before = listOf(600);
     StrokeList after = before;
-    after.replace(300, freehand({{7, 7}, {8, 8}}));
+    DrawingStroke shortened = before[300];
+    shortened.points.pop_back();
+    after.replace(300, shortened);
     const auto difference = StrokeList::difference(before, after);
     ASSERT_EQ(difference.replaced.size(), 1U);
     EXPECT_EQ(difference.replaced[0].before, before.ref(300));
