@@ -23,12 +23,12 @@ void sweepShown(benchmark::State& state) {
     desktop::QtGraphics graphics;
     FinishedStrokesLayer layer(graphics);
     layer.layout(kPageSize, 1);
-    layer.update(page, {});
+    showAll(layer, page);
     for (auto _ : state) {
         StrokeList strokes = page;
         processEraser(eraser, strokes);
-        layer.update(strokes, {});
-        layer.update(page, {});
+        showAll(layer, strokes);
+        showAll(layer, page);
     }
 }
 BENCHMARK(sweepShown)->Name("eraser sweep and its undo, painted")->Apply(forEachPageButTheLargest);

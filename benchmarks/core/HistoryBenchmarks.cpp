@@ -28,12 +28,12 @@ void undoShown(benchmark::State& state) {
     desktop::QtGraphics graphics;
     FinishedStrokesLayer layer(graphics);
     layer.layout(kPageSize, 1);
-    layer.update(drawing.strokes, {});
+    showAll(layer, drawing.strokes);
     for (auto _ : state) {
         drawing.undo();
-        layer.update(drawing.strokes, {});
+        showAll(layer, drawing.strokes);
         drawing.redo();
-        layer.update(drawing.strokes, {});
+        showAll(layer, drawing.strokes);
     }
 }
 BENCHMARK(undoShown)->Name("undo and redo of a stroke, painted")->Apply(forEachPageButTheLargest);

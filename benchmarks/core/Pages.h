@@ -1,5 +1,6 @@
 #pragma once
 
+#include "annotation/FinishedStrokesLayer.h"
 #include "benchmarks/core/Page.h"
 
 #include <benchmark/benchmark.h>
@@ -22,6 +23,14 @@ inline void forEachPageButTheLargest(benchmark::internal::Benchmark* benchmark) 
         }
     }
     benchmark->Unit(benchmark::kMillisecond);
+}
+
+/// Makes the layer show these strokes, with all that remains to be repainted.
+inline void showAll(FinishedStrokesLayer& layer, const StrokeList& strokes) {
+    layer.update(strokes, {});
+    while (layer.isBehind()) {
+        layer.repaintStep();
+    }
 }
 
 inline std::size_t sizeOfPage(const benchmark::State& state) {

@@ -25,10 +25,10 @@ BENCHMARK(region)->Name("region of 200 × 200 repainted")->Apply(forEachPage);
 void wholeScreen(benchmark::State& state) {
     const StrokeList& page = pageOf(sizeOfPage(state));
     desktop::QtGraphics graphics;
-    FinishedStrokesLayer layer(graphics);
     for (auto _ : state) {
+        FinishedStrokesLayer layer(graphics);
         layer.layout(kPageSize, 1);
-        layer.update(page, {});
+        showAll(layer, page);
     }
 }
 BENCHMARK(wholeScreen)->Name("whole screen repainted")->Apply(forEachPage);

@@ -1,6 +1,7 @@
 #include "annotation/DirtyCells.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 namespace quillon {
@@ -51,6 +52,19 @@ void DirtyCells::add(const CGRect& rect) {
         m_words[word] |= bits;
         return false;
     });
+}
+
+void DirtyCells::add(const DirtyCells& other) {
+    std::ranges::transform(m_words, other.m_words, m_words.begin(), std::bit_or{});
+}
+
+void DirtyCells::remove(const DirtyCells& other) {
+    std::ranges::transform(m_words, other.m_words, m_words.begin(),
+                           [](std::uint64_t mine, std::uint64_t theirs) { return mine & ~theirs; });
+}
+
+bool DirtyCells::isEmpty() const {
+    return std::ranges::all_of(m_words, [](std::uint64_t word) { return word == 0; });
 }
 
 bool DirtyCells::meets(const CGRect& rect) const {

@@ -22,7 +22,11 @@ public:
     /// Makes every cell dirty with which `rect` shares an area. What lies outside of the grid is
     /// left out.
     void add(const CGRect& rect);
+    /// These take the cells of another grid of the same size and scale.
+    void add(const DirtyCells& other);
+    void remove(const DirtyCells& other);
 
+    bool isEmpty() const;
     /// False only when `rect` shares no area with a dirty cell.
     bool meets(const CGRect& rect) const;
     /// Every cell is dirty with which `rect` shares an area.

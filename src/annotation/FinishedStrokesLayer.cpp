@@ -4,44 +4,136 @@
 
 namespace quillon {
 
-void FinishedStrokesLayer::layout(CGSize size, CGFloat scale) {
-    m_size = size;
-    m_scale = scale;
-    m_bitmap.reset();
-    m_aside = {};
-}
+namespace {
 
-Damage FinishedStrokesLayer::update(const StrokeList& strokes, FadingStrokes fading) {
-    const auto difference = StrokeList::difference(m_strokes, strokes);
-    const bool isSame = difference.isEmpty() && m_fading.empty() && fading.empty();
-    if (isSame && (m_bitmap || strokes.empty())) {
-        return {};
-    }
-    const DirtyCells dirty = changes(difference, fading);
-    const bool fades = !m_fading.empty() || !fading.empty();
-    const bool drawsOnTop = m_bitmap && !fades && isOneOnTop(difference, strokes, dirty);
-    if (strokes.empty() && !fades) {
-        putAside();
-    }
-    m_strokes = strokes;
-    m_fading = std::move(fading);
+/// Of one update; more than come by hand between two of them. What an undo brings may be more.
+constexpr std::size_t kMostOnTop = 64;
 
-    if (m_strokes.empty() && m_fading.empty()) {
-        m_bitmap.reset();
-    } else if (!m_bitmap) {
-        if (!takeBack()) {
-            paintAll();
-        }
-    } else if (drawsOnTop) {
-        drawOnTop(*difference.added.front());
-    } else {
-        repaint(dirty);
-    }
+/// To draw this much takes about a tenth of a millisecond, and so does the look at so many strokes.
+constexpr StrokeWalk::Budget kStep{.looks = 2000, .segments = 64};
+
+Damage damageOf(const DirtyCells& cells) {
     Damage damage;
-    for (const CGRect& rect : dirty.rects()) {
+    for (const CGRect& rect : cells.rects()) {
         damage.add(rect);
     }
     return damage;
+}
+
+} // namespace
+
+void FinishedStrokesLayer::layout(CGSize size, CGFloat scale) {
+    if (size == m_size && scale == m_scale) {
+        return;
+    }
+    m_size = size;
+    m_scale = scale;
+    clear();
+    m_aside.reset();
+}
+
+Damage FinishedStrokesLayer::update(const StrokeList& strokes, FadingStrokes fading) {
+    auto difference = StrokeList::difference(m_strokes, strokes);
+    if (difference.isEmpty() && m_fading.empty() && fading.empty()) {
+        return {};
+    }
+    if (strokes.empty() && fading.empty()) {
+        DirtyCells shown = changes(difference, fading);
+        shown.add(behind());
+        putAside();
+        clear();
+        return damageOf(shown);
+    }
+    if (!m_bitmap && fading.empty() && takeBack(strokes)) {
+        return damageOf(changes(difference, fading));
+    }
+    if (!m_bitmap) {
+        m_bitmap = m_graphics.makeBitmap(m_size, m_scale);
+    }
+    const auto appended = takeAppended(difference, strokes);
+    m_dirty.add(changes(difference, fading));
+    m_strokes = strokes;
+    m_fading = std::move(fading);
+    return damageOf(drawOnTop(appended));
+}
+
+void FinishedStrokesLayer::putAside() {
+    // Of two pictures the one of more strokes is worth more.
+    const bool isWorthMore = !m_aside || m_strokes.size() >= m_aside->strokes.size();
+    if (m_bitmap && m_fading.empty() && isWorthMore) {
+        m_aside = {m_strokes, std::move(m_bitmap), behind()};
+    }
+}
+
+bool FinishedStrokesLayer::takeBack(const StrokeList& strokes) {
+    if (!m_aside || !StrokeList::difference(m_aside->strokes, strokes).isEmpty()) {
+        return false;
+    }
+    auto aside = *std::exchange(m_aside, std::nullopt);
+    m_strokes = strokes;
+    m_bitmap = std::move(aside.bitmap);
+    m_dirty = std::move(aside.dirty);
+    return true;
+}
+
+void FinishedStrokesLayer::clear() {
+    m_strokes.clear();
+    m_fading.clear();
+    m_bitmap.reset();
+    m_dirty = DirtyCells(m_size, m_scale);
+    m_repaint.reset();
+}
+
+std::vector<StrokeRef> FinishedStrokesLayer::takeAppended(StrokeList::Difference& difference,
+                                                          const StrokeList& strokes) {
+    auto& added = difference.added;
+    std::size_t count = 0;
+    while (count < added.size() &&
+           added[added.size() - 1 - count] == strokes.ref(strokes.size() - 1 - count)) {
+        ++count;
+    }
+    if (count > kMostOnTop) {
+        return {};
+    }
+    const auto first = added.end() - static_cast<std::ptrdiff_t>(count);
+    std::vector<StrokeRef> appended(first, added.end());
+    added.erase(first, added.end());
+    return appended;
+}
+
+DirtyCells FinishedStrokesLayer::drawOnTop(const std::vector<StrokeRef>& appended) {
+    DirtyCells drawn(m_size, m_scale);
+    for (const auto& stroke : appended) {
+        DirtyCells ink(m_size, m_scale);
+        stroke->visitInk(m_graphics, [&](const CGRect& piece) { ink.add(piece); });
+        m_bitmap->paint(stroke->inkBounds(m_graphics), [&](GraphicsContext& context) {
+            drawStroke(context, stroke->stroke(), blendModeOf(stroke->stroke().tool),
+                       stroke->segments());
+        });
+        if (m_repaint) {
+            m_repaint->cells.remove(ink);
+        }
+        if (m_repaint || isUnderHighlighter(*stroke, ink)) {
+            m_dirty.add(ink);
+        }
+        drawn.add(ink);
+    }
+    return drawn;
+}
+
+bool FinishedStrokesLayer::isUnderHighlighter(const FinishedStroke& stroke,
+                                              const DirtyCells& ink) const {
+    if (stroke.stroke().tool == DrawingTool::highlighter) {
+        return false;
+    }
+    for (std::size_t index = 0; index < m_strokes.size(); ++index) {
+        const auto& other = *m_strokes.ref(index);
+        if (other.stroke().tool == DrawingTool::highlighter &&
+            ink.meets(other.inkBounds(m_graphics))) {
+            return true;
+        }
+    }
+    return false;
 }
 
 DirtyCells FinishedStrokesLayer::changes(const StrokeList::Difference& difference,
@@ -70,75 +162,53 @@ DirtyCells FinishedStrokesLayer::changes(const StrokeList::Difference& differenc
     return dirty;
 }
 
-void FinishedStrokesLayer::putAside() {
-    // Of two pictures the one of more strokes is worth more.
-    if (m_bitmap && m_strokes.size() >= m_aside.strokes.size()) {
-        m_aside = {m_strokes, std::move(m_bitmap)};
+DirtyCells FinishedStrokesLayer::behind() const {
+    DirtyCells cells = m_dirty;
+    if (m_repaint) {
+        cells.add(m_repaint->cells);
     }
+    return cells;
 }
 
-bool FinishedStrokesLayer::takeBack() {
-    const bool isSame = m_aside.bitmap && m_fading.empty() &&
-                        StrokeList::difference(m_aside.strokes, m_strokes).isEmpty();
-    if (isSame) {
-        m_bitmap = std::exchange(m_aside, {}).bitmap;
+Damage FinishedStrokesLayer::repaintStep() {
+    if (!isBehind()) {
+        return {};
     }
-    return isSame;
+    if (!m_repaint) {
+        beginRepaint();
+    }
+    auto& [cells, bounds, walk, sheet] = *m_repaint;
+    sheet->paint(bounds, [&](GraphicsContext& context) {
+        walk.goOn(context, m_graphics, PaintArea(bounds, cells), kStep);
+    });
+    return walk.isAtEnd() ? endRepaint() : Damage();
+}
+
+void FinishedStrokesLayer::beginRepaint() {
+    const auto cells = std::exchange(m_dirty, DirtyCells(m_size, m_scale));
+    CGRect bounds;
+    for (const CGRect& rect : cells.rects()) {
+        bounds = bounds.isEmpty() ? rect : bounds.unite(rect);
+    }
+    m_repaint.emplace(Repaint{cells, bounds, StrokeWalk(m_strokes, m_fading),
+                              m_graphics.makeBitmap(m_size, m_scale)});
+}
+
+Damage FinishedStrokesLayer::endRepaint() {
+    const Repaint done = *std::exchange(m_repaint, std::nullopt);
+    m_bitmap->paint(done.bounds, [&](GraphicsContext& context) {
+        for (const CGRect& rect : done.cells.rects()) {
+            context.clear(rect);
+            context.draw(*done.sheet, rect);
+        }
+    });
+    return damageOf(done.cells);
 }
 
 void FinishedStrokesLayer::draw(GraphicsContext& context, const CGRect& rect) const {
     if (m_bitmap) {
         context.draw(*m_bitmap, rect);
     }
-}
-
-bool FinishedStrokesLayer::isOneOnTop(const StrokeList::Difference& difference,
-                                      const StrokeList& strokes, const DirtyCells& dirty) const {
-    const auto& added = difference.added;
-    const bool isOneAppended = difference.removed.empty() && difference.replaced.empty() &&
-                               added.size() == 1 &&
-                               added.front() == strokes.ref(strokes.size() - 1);
-    if (!isOneAppended) {
-        return false;
-    }
-    // Highlighter strokes are drawn over all others.
-    if (added.front()->stroke().tool == DrawingTool::highlighter) {
-        return true;
-    }
-    for (std::size_t index = 0; index + 1 < strokes.size(); ++index) {
-        const auto& present = *strokes.ref(index);
-        if (present.stroke().tool == DrawingTool::highlighter &&
-            dirty.meets(present.inkBounds(m_graphics))) {
-            return false;
-        }
-    }
-    return true;
-}
-
-void FinishedStrokesLayer::drawOnTop(const FinishedStroke& added) {
-    m_bitmap->paint(added.inkBounds(m_graphics), [&](GraphicsContext& context) {
-        const auto& stroke = added.stroke();
-        drawStroke(context, stroke, blendModeOf(stroke.tool), added.segments());
-    });
-}
-
-void FinishedStrokesLayer::repaint(const DirtyCells& dirty) {
-    const auto rects = dirty.rects();
-    if (rects.empty()) {
-        return;
-    }
-    m_bitmap->paint(rects, [&](GraphicsContext& context) {
-        const CGRect bounds = context.clipBounds();
-        context.clear(bounds);
-        drawStrokes(context, m_strokes, m_graphics, m_fading, PaintArea(bounds, dirty));
-    });
-}
-
-void FinishedStrokesLayer::paintAll() {
-    m_bitmap = m_graphics.makeBitmap(m_size, m_scale);
-    m_bitmap->paint({0, 0, m_size.width, m_size.height}, [&](GraphicsContext& context) {
-        drawStrokes(context, m_strokes, m_graphics, m_fading);
-    });
 }
 
 } // namespace quillon

@@ -3,47 +3,88 @@
 #include "annotation/DirtyCells.h"
 #include "annotation/StrokeList.h"
 #include "annotation/StrokeRenderer.h"
+#include "annotation/StrokeWalk.h"
 #include "platform/Damage.h"
 #include "platform/Graphics.h"
 
+#include <cstddef>
 #include <memory>
+#include <optional>
+#include <vector>
 
 namespace quillon {
 
 /// The lower drawing layer: all finished strokes, kept composed in a bitmap.
 ///
-/// The bitmap always equals the plain walk over the whole list, pixel for pixel: a change repaints
-/// the cells that it touched, by one walk over what meets them, or draws on top when nothing lies
-/// above the new stroke. It exists only while there is something to show; what was cleared is kept
-/// aside, so that an undo brings it back without a walk.
+/// What lies above all else is drawn at once, whatever stands below it. Everything else waits until
+/// it is repainted in small steps, between which input is taken; until then the old picture stays:
+/// 1. an update marks the cells in which ink comes or goes;
+/// 2. a repaint begins with all cells that are marked by then, and draws the strokes that meet them
+///    on a sheet of its own, a few with each step;
+/// 3. its last step brings those cells from the sheet into the bitmap, all at once. A cell in which
+///    a stroke was drawn on top in the meantime is left out and marked again;
+/// 4. what was marked since then is the next repaint's, so that changes that follow each other fast
+///    are seen one after the other and hold up none.
+///
+/// With no cell left, the bitmap equals the plain walk over the whole list, pixel for pixel. It
+/// exists only while there is something to show; what was cleared is kept aside, so that an undo
+/// brings it back without a walk.
 class FinishedStrokesLayer {
 public:
     explicit FinishedStrokesLayer(Graphics& graphics)
         : m_graphics(graphics) {}
 
-    /// The size in points, and the device pixels to a point. Everything is painted anew.
+    /// The size in points, and the device pixels to a point. When either is new, everything is
+    /// painted anew.
     void layout(CGSize size, CGFloat scale);
 
-    /// Makes the layer show these strokes; answers where the picture has changed.
+    /// Makes the layer show these strokes, now or with later steps; answers where the picture has
+    /// changed already.
     Damage update(const StrokeList& strokes, FadingStrokes fading);
+
+    /// Whether there is something left to repaint.
+    bool isBehind() const { return m_repaint || !m_dirty.isEmpty(); }
+    /// Takes one more step, however many strokes there are not much more than some 64 segments
+    /// long; answers where the picture has changed by it.
+    Damage repaintStep();
 
     /// Draws the part of the layer that lies in `rect`.
     void draw(GraphicsContext& context, const CGRect& rect) const;
 
 private:
+    /// A picture that was cleared.
+    struct Picture {
+        StrokeList strokes;
+        std::unique_ptr<Bitmap> bitmap;
+        /// Where the bitmap does not show the strokes yet.
+        DirtyCells dirty;
+    };
+    struct Repaint {
+        DirtyCells cells;
+        CGRect bounds;
+        StrokeWalk walk;
+        std::unique_ptr<Bitmap> sheet;
+    };
+
+    /// Back to nothing, with no picture.
+    void clear();
+    /// Keeps the present picture, if it is one of no fading stroke.
+    void putAside();
+    /// Shows the picture that was put aside, if it is that of these strokes.
+    bool takeBack(const StrokeList& strokes);
+    /// Takes those strokes out of the difference that have come to the end of the list, unless
+    /// they are many.
+    static std::vector<StrokeRef> takeAppended(StrokeList::Difference& difference,
+                                               const StrokeList& strokes);
+    /// Answers where.
+    DirtyCells drawOnTop(const std::vector<StrokeRef>& appended);
+    bool isUnderHighlighter(const FinishedStroke& stroke, const DirtyCells& ink) const;
     /// What differs between the picture of the last update and one of these.
     DirtyCells changes(const StrokeList::Difference& difference, const FadingStrokes& fading) const;
-    /// `difference` is nothing but a stroke that is drawn after all others, in the dirty cells.
-    bool isOneOnTop(const StrokeList::Difference& difference, const StrokeList& strokes,
-                    const DirtyCells& dirty) const;
-    void drawOnTop(const FinishedStroke& added);
-    void repaint(const DirtyCells& dirty);
-    /// Keeps the present picture, of no fading stroke.
-    void putAside();
-    /// Shows the picture that was put aside, if it is that of the present strokes.
-    bool takeBack();
-    /// Into a fresh bitmap.
-    void paintAll();
+    /// Where the bitmap does not show the strokes.
+    DirtyCells behind() const;
+    void beginRepaint();
+    Damage endRepaint();
 
     Graphics& m_graphics;
     CGSize m_size;
@@ -51,10 +92,10 @@ private:
     StrokeList m_strokes;
     FadingStrokes m_fading;
     std::unique_ptr<Bitmap> m_bitmap;
-    struct {
-        StrokeList strokes;
-        std::unique_ptr<Bitmap> bitmap;
-    } m_aside;
+    /// Not yet begun to be repainted.
+    DirtyCells m_dirty{{}, 1};
+    std::optional<Repaint> m_repaint;
+    std::optional<Picture> m_aside;
 };
 
 } // namespace quillon

@@ -169,9 +169,29 @@ Damage OverlayContainerView::takeDamage() {
         damage.add(bounds());
     }
     damage.add(m_finishedLayer.update(m_drawingState.strokes, fadingStrokes(now)));
-    damage.add(bringLiveLayerUpToDate());
+    const Damage live = bringLiveLayerUpToDate();
+    if (live.isEmpty()) {
+        // What takes little is done with its change. A motion of the pen waits for nothing.
+        damage.add(m_finishedLayer.repaintStep());
+    }
+    damage.add(live);
+    keepRepainting();
     keepAnimating(now);
     return damage;
+}
+
+void OverlayContainerView::keepRepainting() {
+    if (!m_finishedLayer.isBehind() || std::exchange(m_isRepaintPending, true)) {
+        return;
+    }
+    Host::current().mainQueue().async(m_lifetime.guard([this] {
+        m_isRepaintPending = false;
+        if (const Damage damage = m_finishedLayer.repaintStep(); !damage.isEmpty()) {
+            m_pendingDamage.add(damage);
+            setNeedsUpdate();
+        }
+        keepRepainting();
+    }));
 }
 
 Damage OverlayContainerView::bringLiveLayerUpToDate() {

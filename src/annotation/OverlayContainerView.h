@@ -86,6 +86,8 @@ private:
     FadingStrokes fadingStrokes(double now);
     /// Makes the live layer show the stroke in progress as it now is.
     Damage bringLiveLayerUpToDate();
+    /// Takes the steps of a repaint one by one, with the input that has arrived between them.
+    void keepRepainting();
     /// Asks for another update while anything is still moving.
     void keepAnimating(double now);
     CGRect bounds() const { return {0, 0, m_size.width, m_size.height}; }
@@ -104,6 +106,7 @@ private:
     /// The canvas in which the present drag began.
     DrawingCanvasView* m_dragCanvas = nullptr;
     FinishedStrokesLayer m_finishedLayer;
+    bool m_isRepaintPending = false;
     LiveStrokeLayer m_liveLayer;
     bool m_isLiveLayerBehind = false;
     std::vector<Fade> m_fades;

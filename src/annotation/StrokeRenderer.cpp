@@ -1,8 +1,13 @@
 #include "annotation/StrokeRenderer.h"
 
+#include "annotation/StrokeWalk.h"
+
 namespace quillon {
 
 namespace {
+
+/// To draw a shape or a text takes about as long as so many segments.
+constexpr std::size_t kSegmentsOfOtherForms = 64;
 
 StrokeStyle roundStyle(CGFloat lineWidth) {
     return {lineWidth, LineCap::round, LineJoin::round};
@@ -24,60 +29,22 @@ CGRect textInk(const DrawingStroke& stroke, Graphics& graphics) {
     return {ink.x + at.x, ink.y + at.y, ink.width, ink.height};
 }
 
-/// Walks the list and the fading strokes together in their common order.
-template <typename Visit>
-void forEachInOrder(const StrokeList& strokes, const FadingStrokes& fading, Visit&& visit) {
-    auto next = fading.begin();
-    for (std::size_t index = 0; index < strokes.size(); ++index) {
-        const auto& ref = strokes.ref(index);
-        for (; next != fading.end() && next->first->order() <= ref->order(); ++next) {
-            visit(*next->first, next->second);
-        }
-        visit(*ref, 1.0);
-    }
-    for (; next != fading.end(); ++next) {
-        visit(*next->first, next->second);
-    }
-}
-
 } // namespace
 
 void drawStrokes(GraphicsContext& context, const StrokeList& strokes, Graphics& graphics,
                  const FadingStrokes& fading) {
-    drawStrokes(context, strokes, graphics, fading, PaintArea(context.clipBounds()));
+    StrokeWalk(strokes, fading).goOn(context, graphics, PaintArea(context.clipBounds()), {});
 }
 
-void drawStrokes(GraphicsContext& context, const StrokeList& strokes, Graphics& graphics,
-                 const FadingStrokes& fading, const PaintArea& area) {
-    std::vector<std::pair<const FinishedStroke*, double>> highlighters;
-    const auto draw = [&](const FinishedStroke& finished, double opacity, BlendMode blendMode) {
-        context.setOpacity(opacity);
-        drawStroke(context, finished.stroke(), blendMode, finished.segments(), area);
-    };
-    forEachInOrder(strokes, fading, [&](const FinishedStroke& finished, double opacity) {
-        if (!area.meets(finished.inkBounds(graphics))) {
-            return;
-        }
-        if (finished.stroke().tool == DrawingTool::highlighter) {
-            highlighters.emplace_back(&finished, opacity);
-        } else {
-            draw(finished, opacity, BlendMode::normal);
-        }
-    });
-    for (const auto& [finished, opacity] : highlighters) {
-        draw(*finished, opacity, BlendMode::plusLighter);
-    }
-    context.setOpacity(1);
+std::size_t drawStroke(GraphicsContext& context, const DrawingStroke& stroke, BlendMode blendMode,
+                       const SegmentIndex& segments) {
+    return drawStroke(context, stroke, blendMode, segments, PaintArea(context.clipBounds()));
 }
 
-void drawStroke(GraphicsContext& context, const DrawingStroke& stroke, BlendMode blendMode,
-                const SegmentIndex& segments) {
-    drawStroke(context, stroke, blendMode, segments, PaintArea(context.clipBounds()));
-}
-
-void drawStroke(GraphicsContext& context, const DrawingStroke& stroke, BlendMode blendMode,
-                const SegmentIndex& segments, const PaintArea& area) {
+std::size_t drawStroke(GraphicsContext& context, const DrawingStroke& stroke, BlendMode blendMode,
+                       const SegmentIndex& segments, const PaintArea& area) {
     const Color color = paintColor(stroke);
+    std::size_t drawn = kSegmentsOfOtherForms;
     context.drawLayer([&](GraphicsContext& layer) {
         layer.setBlendMode(blendMode);
         switch (formOf(stroke)) {
@@ -90,10 +57,11 @@ void drawStroke(GraphicsContext& context, const DrawingStroke& stroke, BlendMode
                      *stroke.fontSize);
             break;
         case StrokeForm::freehand:
-            drawPath(layer, stroke.points, color, stroke.lineWidth, segments, area);
+            drawn = drawPath(layer, stroke.points, color, stroke.lineWidth, segments, area);
             break;
         }
     });
+    return drawn;
 }
 
 BlendMode blendModeOf(DrawingTool tool) {
@@ -111,16 +79,21 @@ void drawText(GraphicsContext& context, const std::string& text, CGPoint at, con
     context.drawText({text, fontSize, color}, at, Anchor::topLeading);
 }
 
-void drawPath(GraphicsContext& context, std::span<const CodablePoint> points, const Color& color,
-              CGFloat lineWidth, const SegmentIndex& segments, const PaintArea& area) {
+std::size_t drawPath(GraphicsContext& context, std::span<const CodablePoint> points,
+                     const Color& color, CGFloat lineWidth, const SegmentIndex& segments,
+                     const PaintArea& area) {
     const FreehandCurve curve(points);
     Path path;
-    segments.forEachRunNear(
-        curve, area, inkReach(lineWidth),
-        [&](std::size_t first, std::size_t past) { curve.addSegments(first, past, path); });
+    std::size_t drawn = 0;
+    segments.forEachRunNear(curve, area, inkReach(lineWidth),
+                            [&](std::size_t first, std::size_t past) {
+                                curve.addSegments(first, past, path);
+                                drawn += past - first;
+                            });
     if (!path.isEmpty()) {
         context.stroke(path, color, roundStyle(lineWidth));
     }
+    return drawn;
 }
 
 Color paintColor(const DrawingStroke& stroke) {

@@ -28,15 +28,14 @@ using FadingStrokes = std::vector<std::pair<StrokeRef, double>>;
 /// highlighter strokes, so that these always lie on top.
 void drawStrokes(GraphicsContext& context, const StrokeList& strokes, Graphics& graphics,
                  const FadingStrokes& fading = {});
-void drawStrokes(GraphicsContext& context, const StrokeList& strokes, Graphics& graphics,
-                 const FadingStrokes& fading, const PaintArea& area);
 
 /// Paints one stroke in a layer of its own. The blend mode holds inside that layer, not where the
-/// layer is received. `segments` belongs to the stroke's points.
-void drawStroke(GraphicsContext& context, const DrawingStroke& stroke, BlendMode blendMode,
-                const SegmentIndex& segments);
-void drawStroke(GraphicsContext& context, const DrawingStroke& stroke, BlendMode blendMode,
-                const SegmentIndex& segments, const PaintArea& area);
+/// layer is received. `segments` belongs to the stroke's points. Answers what it took, in segments
+/// of a freehand stroke.
+std::size_t drawStroke(GraphicsContext& context, const DrawingStroke& stroke, BlendMode blendMode,
+                       const SegmentIndex& segments);
+std::size_t drawStroke(GraphicsContext& context, const DrawingStroke& stroke, BlendMode blendMode,
+                       const SegmentIndex& segments, const PaintArea& area);
 
 /// The blend mode that a tool's strokes have inside their layer.
 BlendMode blendModeOf(DrawingTool tool);
@@ -50,9 +49,10 @@ void drawText(GraphicsContext& context, const std::string& text, CGPoint at, con
               CGFloat fontSize);
 
 /// Paints a freehand line through its points: nothing for fewer than two, a straight line for two,
-/// else the curve of `FreehandCurve`, with round caps and joins.
-void drawPath(GraphicsContext& context, std::span<const CodablePoint> points, const Color& color,
-              CGFloat lineWidth, const SegmentIndex& segments, const PaintArea& area);
+/// else the curve of `FreehandCurve`, with round caps and joins. Answers how many segments it drew.
+std::size_t drawPath(GraphicsContext& context, std::span<const CodablePoint> points,
+                     const Color& color, CGFloat lineWidth, const SegmentIndex& segments,
+                     const PaintArea& area);
 
 /// The colour in which a stroke is painted: its own, but translucent white for the eraser.
 Color paintColor(const DrawingStroke& stroke);

@@ -41,6 +41,20 @@ TEST(DirtyCells, leave_out_what_lies_outside_and_what_has_no_area) {
     EXPECT_EQ(cells.rects(), (std::vector<CGRect>{{0, 0, 8, 8}}));
 }
 
+TEST(DirtyCells, take_those_of_another_grid_and_give_them_up_again) {
+    DirtyCells cells(kSize, 1);
+    cells.add({0, 0, 24, 8});
+    DirtyCells other(kSize, 1);
+    other.add({16, 0, 24, 8});
+    cells.add(other);
+    EXPECT_EQ(cells.rects(), (std::vector<CGRect>{{0, 0, 40, 8}}));
+    cells.remove(other);
+    EXPECT_EQ(cells.rects(), (std::vector<CGRect>{{0, 0, 16, 8}}));
+    EXPECT_FALSE(cells.isEmpty());
+    cells.remove(cells);
+    EXPECT_TRUE(cells.isEmpty());
+}
+
 TEST(DirtyCells, below_each_other_are_one_rectangle) {
     DirtyCells cells(kSize, 1);
     cells.add({16, 0, 32, 100});

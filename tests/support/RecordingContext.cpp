@@ -86,7 +86,7 @@ Drawing& RecordingContext::record(Drawing::Kind kind) {
 }
 
 std::unique_ptr<Bitmap> RecordingGraphics::makeBitmap(CGSize size, CGFloat scale) {
-    auto bitmap = std::make_unique<RecordingBitmap>(size, scale);
+    auto bitmap = std::make_unique<RecordingBitmap>(size, scale, drawn);
     lastBitmap = bitmap.get();
     return bitmap;
 }

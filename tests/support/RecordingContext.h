@@ -4,6 +4,7 @@
 #include "platform/Graphics.h"
 #include "platform/GraphicsContext.h"
 
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <span>
@@ -75,14 +76,15 @@ private:
     std::vector<State> m_states{1};
 };
 
-/// Bitmaps whose contents are the list of what was drawn into them.
+/// Bitmaps whose contents are the list of what was drawn into them. It must outlive them.
 class RecordingGraphics : public Graphics {
 public:
     class RecordingBitmap : public Bitmap {
     public:
-        RecordingBitmap(CGSize size, CGFloat scale)
+        RecordingBitmap(CGSize size, CGFloat scale, std::vector<Drawing>& drawn)
             : m_size(size)
-            , m_scale(scale) {}
+            , m_scale(scale)
+            , m_drawn(drawn) {}
         CGSize size() const override { return m_size; }
         CGFloat scale() const override { return m_scale; }
 
@@ -94,13 +96,20 @@ public:
             for (const CGRect& rect : clip) {
                 context.clip = context.clip.unite(rect);
             }
+            m_before = context.drawings.size();
             return context;
         }
-        void endPainting() override {}
+        void endPainting() override {
+            const auto before = static_cast<std::ptrdiff_t>(m_before);
+            m_drawn.insert(m_drawn.end(), context.drawings.begin() + before,
+                           context.drawings.end());
+        }
 
     private:
         CGSize m_size;
         CGFloat m_scale;
+        std::vector<Drawing>& m_drawn;
+        std::size_t m_before = 0;
     };
 
     std::unique_ptr<Bitmap> makeBitmap(CGSize size, CGFloat scale) override;
@@ -108,6 +117,8 @@ public:
     CGRect inkBounds(const Text& text) override;
 
     RecordingBitmap* lastBitmap = nullptr;
+    /// What was drawn into any bitmap, one after the other, also into those that are gone.
+    std::vector<Drawing> drawn;
 };
 
 } // namespace quillon::test

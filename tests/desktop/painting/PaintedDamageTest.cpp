@@ -9,6 +9,8 @@
 #include <QPainter>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
 #include <random>
 
 namespace quillon::desktop {
@@ -29,13 +31,27 @@ public:
         update();
     }
 
+    /// What the queue holds is done, and the update that follows it.
+    void turn() {
+        host.mainQueue.turn();
+        update();
+    }
+    /// Whatever is to be done at this time is done.
+    void settle() {
+        update();
+        host.mainQueue.run();
+        update();
+    }
+
     AppSettings& settings() { return AppSettings::shared(); }
 
-    void update() {
+    /// Answers whether there was anything to update.
+    bool update() {
         const Damage damage = overlay.takeDamage();
         for (const CGRect& rect : damage.rects()) {
             expose(rect);
         }
+        return !damage.isEmpty();
     }
 
     /// The desktop asks for a part of the picture, at a time of its own.
@@ -215,15 +231,18 @@ TEST_P(PaintedDamage, after_any_sequence_the_screen_is_pixel_for_pixel_the_plain
             }
             }
         }
-        // Several events may fall into one update.
+        // Several events may fall into one update, and several updates into one repaint.
         if (pick(3) != 0) {
             shown.update();
+            if (pick(3) == 0) {
+                shown.turn();
+            }
         } else if (pick(4) == 0) {
             const CGPoint corner = place();
             shown.expose({corner.x, corner.y, 100, 60});
         }
         if (step % 10 == 0) {
-            shown.update();
+            shown.settle();
             ASSERT_EQ(differingPixels(shown.screen(),
                                       shown.plainWalk(settings.isWhiteboardMode ? 0.9 : 0)),
                       0)
@@ -241,8 +260,10 @@ TEST_P(PaintedDamage, among_many_strokes_erasing_and_undoing_leave_the_plain_wal
     };
     const auto wander = [&](int count) {
         std::vector<CGPoint> points{{pick(2600) / 10.0 - 10, pick(1800) / 10.0 - 10}};
-        while (static_cast<int>(points.size()) < count) {
-            points.push_back(points.back() + CGPoint{pick(160) / 10.0 - 8, pick(160) / 10.0 - 8});
+        for (double direction = pick(60) / 10.0; static_cast<int>(points.size()) < count;) {
+            direction += pick(100) / 100.0 - 0.5;
+            points.push_back(points.back() +
+                             CGPoint{8 * std::cos(direction), 8 * std::sin(direction)});
         }
         return points;
     };
@@ -259,8 +280,8 @@ TEST_P(PaintedDamage, among_many_strokes_erasing_and_undoing_leave_the_plain_wal
     for (int stroke = 0; stroke < 200; ++stroke) {
         drag(pick(8) == 0 ? DrawingTool::highlighter : DrawingTool::pen, wander(3 + pick(80)));
     }
-    for (int step = 0; step < 40; ++step) {
-        switch (pick(6)) {
+    for (int step = 0; step < 120; ++step) {
+        switch (pick(8)) {
         case 0:
             shown.overlay.clearAllAnnotations();
             shown.update();
@@ -275,12 +296,76 @@ TEST_P(PaintedDamage, among_many_strokes_erasing_and_undoing_leave_the_plain_wal
         case 3:
             drag(DrawingTool::pen, wander(40));
             break;
+        case 4:
+            shown.overlay.layout({kSize.width + pick(2), kSize.height}, GetParam());
+            shown.turn();
+            shown.overlay.layout(kSize, GetParam());
+            break;
+        case 5:
+            shown.settings().isWhiteboardMode = !shown.settings().isWhiteboardMode;
+            shown.update();
+            shown.host.mainQueue.advance(2);
+            break;
         default:
             drag(DrawingTool::eraser, wander(3 + pick(12)));
         }
-        shown.update();
-        ASSERT_EQ(differingPixels(shown.screen(), shown.plainWalk(0)), 0) << "after step " << step;
+        // The next edit comes before, in the middle of, or after the repaint of this one.
+        for (int turns = pick(12); turns > 0; --turns) {
+            shown.turn();
+        }
+        if (step % 3 == 0) {
+            shown.settle();
+            ASSERT_EQ(differingPixels(shown.screen(),
+                                      shown.plainWalk(shown.settings().isWhiteboardMode ? 0.9 : 0)),
+                      0)
+                << "after step " << step;
+        }
     }
+}
+
+TEST_P(PaintedDamage, a_stroke_just_released_is_on_the_screen_all_the_time) {
+    OverlayOnScreen shown(GetParam());
+    const auto drag = [&](DrawingTool tool, const Color& color, CGFloat shift) {
+        shown.settings().selectedTool = tool;
+        shown.settings().lineWidth = 8.0;
+        shown.settings().selectedColor = color;
+        shown.overlay.mouseDown({20 + shift, 20});
+        for (int step = 1; step <= 60; ++step) {
+            shown.overlay.mouseDragged({20 + 3.0 * step, 20 + 2.0 * step + shift});
+        }
+        shown.overlay.mouseUp({200, 140 + shift});
+    };
+    const auto lowestRedAlong = [&] {
+        int lowest = 255;
+        for (int step = 10; step < 50; ++step) {
+            const CGPoint place{20 + 3.0 * step, 20 + 2.0 * step};
+            const QRgb pixel =
+                shown.screen().pixel(qRound(place.x * GetParam()), qRound(place.y * GetParam()));
+            lowest = std::min(lowest, qRed(pixel));
+        }
+        return lowest;
+    };
+    for (int stroke = 0; stroke < 20; ++stroke) {
+        drag(DrawingTool::pen, Color::blue, stroke - 10);
+    }
+    for (int stroke = 0; stroke < 4; ++stroke) {
+        drag(DrawingTool::highlighter, Color::blue.opacity(0.2), stroke);
+    }
+    shown.settle();
+    ASSERT_EQ(lowestRedAlong(), 0);
+    shown.overlay.drawingState().undo();
+    shown.turn();
+    drag(DrawingTool::pen, Color::red, 0);
+    int turns = 0;
+    for (bool isWorking = true; isWorking; ++turns) {
+        isWorking = shown.update();
+        shown.expose({0, 0, kSize.width, kSize.height});
+        ASSERT_GT(lowestRedAlong(), 100) << "in turn " << turns;
+        isWorking = isWorking || !shown.host.mainQueue.isIdle();
+        shown.host.mainQueue.turn();
+    }
+    EXPECT_GT(turns, 6);
+    EXPECT_EQ(differingPixels(shown.screen(), shown.plainWalk(0)), 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(AtEachScale, PaintedDamage, testing::Values(1.0, 1.25, 1.5, 2.0));
@@ -297,7 +382,7 @@ TEST(PaintedDamage, a_stroke_that_fades_leaves_nothing_behind) {
     EXPECT_GT(qAlpha(shown.screen().pixel(55, 40)), 0);
     EXPECT_LT(qAlpha(shown.screen().pixel(55, 40)), 255);
     shown.host.mainQueue.advance(0.5);
-    shown.update();
+    shown.settle();
     EXPECT_EQ(differingPixels(shown.screen(), shown.plainWalk(0)), 0);
     EXPECT_EQ(qAlpha(shown.screen().pixel(55, 40)), 0);
 }
