@@ -1,9 +1,11 @@
 #include "annotation/Eraser.h"
 
 #include "annotation/EraserIndex.h"
+#include "annotation/StrokePath.h"
 
 #include <algorithm>
 #include <optional>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -12,6 +14,9 @@ namespace quillon {
 namespace {
 
 constexpr CGFloat kTextReach = 20;
+
+/// So many neighbouring segments are left alone after one look when no eraser point is near.
+constexpr std::size_t kSegmentsInGroup = 8;
 
 /// The points of a freehand stroke that the eraser leaves, or nothing when it took none.
 std::optional<std::vector<CodablePoint>> pointsLeft(const FinishedStroke& finished,
@@ -23,15 +28,24 @@ std::optional<std::vector<CodablePoint>> pointsLeft(const FinishedStroke& finish
     // Removing a point never brings a segment to the test that was not there before, so each
     // segment is tested once and takes its first point with it.
     std::vector<CodablePoint> left;
-    for (std::size_t index = 0; index + 1 < points.size(); ++index) {
-        const CGPoint start = points[index].cgPoint();
-        const CGPoint end = points[index + 1].cgPoint();
-        const bool isHit =
-            eraser.anyPointIn(rectBetween(start, end).outset(reach), [&](CGPoint point) {
-                return distanceFromPointToSegment(point, start, end) < reach;
-            });
-        if (!isHit) {
-            left.push_back(points[index]);
+    left.reserve(points.size());
+    for (std::size_t first = 0; first + 1 < points.size(); first += kSegmentsInGroup) {
+        const std::size_t past = std::min(first + kSegmentsInGroup, points.size() - 1);
+        const auto group = std::span(points).subspan(first, past - first + 1);
+        if (!eraser.mayTouch(pointBounds(group).outset(reach))) {
+            left.insert(left.end(), group.begin(), group.end() - 1);
+            continue;
+        }
+        for (std::size_t index = first; index < past; ++index) {
+            const CGPoint start = points[index].cgPoint();
+            const CGPoint end = points[index + 1].cgPoint();
+            const bool isHit =
+                eraser.anyPointIn(rectBetween(start, end).outset(reach), [&](CGPoint point) {
+                    return distanceFromPointToSegment(point, start, end) < reach;
+                });
+            if (!isHit) {
+                left.push_back(points[index]);
+            }
         }
     }
     left.push_back(points.back());

@@ -1,5 +1,7 @@
 #include "annotation/EraserIndex.h"
 
+#include "annotation/StrokePath.h"
+
 #include <numeric>
 
 namespace quillon {
@@ -16,9 +18,7 @@ EraserIndex::EraserIndex(std::span<const CodablePoint> points) {
     if (points.empty()) {
         return;
     }
-    const auto [left, right] = std::ranges::minmax(points, {}, &CodablePoint::x);
-    const auto [top, bottom] = std::ranges::minmax(points, {}, &CodablePoint::y);
-    m_bounds = {left.x, top.y, right.x - left.x, bottom.y - top.y};
+    m_bounds = pointBounds(points);
     m_cell = std::max(kSmallestCell, std::max(m_bounds.width, m_bounds.height) / kMostCells);
     m_columns = static_cast<std::size_t>(m_bounds.width / m_cell) + 1;
     m_rows = static_cast<std::size_t>(m_bounds.height / m_cell) + 1;

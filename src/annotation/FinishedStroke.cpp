@@ -2,7 +2,6 @@
 
 #include "annotation/StrokeRenderer.h"
 
-#include <algorithm>
 #include <vector>
 
 namespace quillon {
@@ -21,15 +20,10 @@ bool differInPointsAlone(const DrawingStroke& a, const DrawingStroke& b) {
 
 FinishedStroke::FinishedStroke(DrawingStroke stroke, std::uint64_t order)
     : m_stroke(std::move(stroke))
-    , m_order(order) {
+    , m_order(order)
+    , m_pointBounds(quillon::pointBounds(m_stroke.points)) {
     if (formOf(m_stroke) == StrokeForm::freehand) {
         m_segments.extend(m_stroke.points);
-    }
-    if (!m_stroke.points.empty()) {
-        const auto& points = m_stroke.points;
-        const auto [left, right] = std::ranges::minmax(points, {}, &CodablePoint::x);
-        const auto [top, bottom] = std::ranges::minmax(points, {}, &CodablePoint::y);
-        m_pointBounds = {left.x, top.y, right.x - left.x, bottom.y - top.y};
     }
 }
 

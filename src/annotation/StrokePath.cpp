@@ -1,5 +1,6 @@
 #include "annotation/StrokePath.h"
 
+#include <algorithm>
 #include <numbers>
 
 namespace quillon {
@@ -52,6 +53,19 @@ void addArrowHead(CGPoint start, CGPoint end, Path& path) {
 }
 
 } // namespace
+
+CGRect pointBounds(std::span<const CodablePoint> points) {
+    if (points.empty()) {
+        return {};
+    }
+    CGPoint low = points.front().cgPoint();
+    CGPoint high = low;
+    for (const auto& point : points) {
+        low = {std::min(low.x, point.x), std::min(low.y, point.y)};
+        high = {std::max(high.x, point.x), std::max(high.y, point.y)};
+    }
+    return rectBetween(low, high);
+}
 
 CGRect FreehandCurve::Segment::bounds() const {
     return boundsOf({start, control1, control2, end});

@@ -14,6 +14,9 @@
 /// All values are points in view coordinates.
 namespace quillon {
 
+/// The smallest rectangle over all of the points; all zero when there is none.
+CGRect pointBounds(std::span<const CodablePoint> points);
+
 /// A freehand polyline as curve segments. Two points make one straight segment, `count` points make
 /// `count - 2` cubic ones, fewer make none.
 class FreehandCurve {
