@@ -1,22 +1,10 @@
-#include "desktop/program/ProgramTest.h"
-#include "desktop/support/DesktopScale.h"
-#include "desktop/support/ScreenSize.h"
+#include "desktop/program/CursorHaloTest.h"
 #include "desktop/support/WakeUps.h"
 
 #include <string>
-#include <utility>
-#include <vector>
 
 namespace quillon::test {
 namespace {
-
-/// The built-in look of the halo: a cyan ring of 34 points, 3 thick.
-constexpr Rgb kHalo{50, 173, 230};
-constexpr int kRadius = 17;
-
-bool isHalo(Rgb seen) {
-    return isNear(seen, kHalo, 30);
-}
 
 /// Counts how often a window is placed or stacked.
 class Placements {
@@ -40,66 +28,6 @@ public:
 
 private:
     XConnection m_connection;
-};
-
-class CursorHalo : public ProgramTest {
-protected:
-    CursorHalo() = default;
-    using ProgramTest::ProgramTest;
-
-    /// Starts the program, switches the halo on and brings it to `place`.
-    void startWithHaloAt(Pixel place) {
-        start();
-        toggleHalo();
-        ASSERT_TRUE(haloComesTo(place));
-    }
-    /// Moves the pointer about until the halo follows, and to `place` at last.
-    bool haloComesTo(Pixel place) {
-        return eventually([&] {
-            input.moveTo({place.x + 1, place.y});
-            input.moveTo(place);
-            return hasRing(place, std::chrono::milliseconds(100));
-        });
-    }
-    bool showsRing(Pixel place, int radius) {
-        return isHalo(screen.pixel({place.x + radius - 1, place.y})) &&
-               isHalo(screen.pixel({place.x - radius, place.y})) &&
-               isHalo(screen.pixel({place.x, place.y + radius - 1})) &&
-               isHalo(screen.pixel({place.x, place.y - radius})) &&
-               screen.pixel(place) == kBackground;
-    }
-    /// Whether the ring stands round `place`, which is the upper left corner of a pixel.
-    bool hasRing(Pixel place, std::chrono::milliseconds bound = defaultBound) {
-        return eventually([&] { return showsRing(place, kRadius); }, bound);
-    }
-    bool hasNoRing(Pixel place) {
-        return screen.waitForPixel({place.x + kRadius - 1, place.y},
-                                   [](Rgb seen) { return seen == kBackground; });
-    }
-    bool keepsRing(Pixel place) {
-        return stays([&] { return hasRing(place, std::chrono::milliseconds(0)); },
-                     std::chrono::milliseconds(200));
-    }
-
-    /// Where a window stands on the screen.
-    std::pair<int, int> cornerOf(xcb_window_t window) {
-        const XOwned<xcb_get_geometry_reply_t> geometry(
-            xcb_get_geometry_reply(desktop.connection().get(),
-                                   xcb_get_geometry(desktop.connection().get(), window), nullptr));
-        return {geometry->x, geometry->y};
-    }
-
-    /// The windows on the screen with that side.
-    std::vector<xcb_window_t> squareWindows(int side) {
-        std::vector<xcb_window_t> windows = desktop.connection().shownWindows();
-        std::erase_if(windows, [&](auto window) {
-            xcb_connection_t* connection = desktop.connection().get();
-            const XOwned<xcb_get_geometry_reply_t> geometry(
-                xcb_get_geometry_reply(connection, xcb_get_geometry(connection, window), nullptr));
-            return !geometry || geometry->width != side || geometry->height != side;
-        });
-        return windows;
-    }
 };
 
 TEST_F(CursorHalo, the_ring_is_centred_on_the_pointer_and_follows_it_without_a_trace) {
@@ -141,7 +69,7 @@ TEST_F(CursorHalo, clicks_reach_the_window_below_and_the_halo_goes_along) {
         EXPECT_TRUE(hasRing(place));
     }
     EXPECT_TRUE(eventually([this] { return below.pressCount() == 3; }));
-    EXPECT_TRUE(squareWindows(120).empty());
+    EXPECT_FALSE(isAnimated());
 }
 
 TEST_F(CursorHalo, a_drag_holds_it_still_until_the_button_is_up) {
@@ -251,200 +179,6 @@ TEST_F(CursorHalo, it_never_takes_the_keyboard) {
     toggleHalo();
     ASSERT_TRUE(hasNoRing({320, 300}));
     EXPECT_TRUE(below.hasKeyboard());
-}
-
-TEST_F(CursorHalo, a_click_in_the_overlay_plays_an_animation_that_is_gone_afterwards) {
-    startAnnotating();
-    toggleHalo();
-    // Another program's window shows when the halo is live: the overlay catches the pointer.
-    for (const int button : {1, 3}) {
-        ASSERT_TRUE(eventually([&] {
-            input.click({500, 300}, button);
-            return eventually([this] { return !squareWindows(120).empty(); },
-                              std::chrono::milliseconds(300));
-        }));
-        EXPECT_TRUE(eventually([this] { return squareWindows(120).empty(); }));
-    }
-    EXPECT_EQ(below.pressCount(), 0);
-}
-
-TEST_F(CursorHalo, the_circle_of_a_click_grows_beyond_the_window_of_the_halo_whole) {
-    startAnnotating();
-    toggleHalo();
-    ASSERT_TRUE(eventually([&] {
-        input.click({500, 300}, 3);
-        // Diameters of more than 60 are seen in full: to the side as well as on the diagonal.
-        return eventually(
-            [this] {
-                return screen.pixel({500 + 38, 300}).green > kBackground.green + 8;
-            },
-            std::chrono::milliseconds(600));
-    }));
-    EXPECT_TRUE(eventually([this] { return squareWindows(120).empty(); }));
-    EXPECT_TRUE(showsBackground({538, 300}));
-}
-
-TEST_F(CursorHalo, over_the_overlay_that_catches_the_pointer_it_holds_still) {
-    startWithHaloAt({300, 300});
-    toggleAnnotation();
-    ASSERT_TRUE(eventually([this] { return takesPointer(); }));
-    input.moveTo({500, 400});
-    input.click({600, 200}, 3);
-    EXPECT_TRUE(keepsRing({300, 300}));
-    toggleAnnotation();
-    ASSERT_TRUE(eventually([this] { return !takesPointer(); }));
-    EXPECT_TRUE(haloComesTo({500, 400}));
-}
-
-TEST_F(CursorHalo, a_middle_click_in_the_overlay_plays_nothing) {
-    startAnnotating();
-    toggleHalo();
-    ASSERT_TRUE(eventually([&] {
-        input.click({500, 300}, 3);
-        return eventually([this] { return !squareWindows(120).empty(); },
-                          std::chrono::milliseconds(300));
-    }));
-    ASSERT_TRUE(eventually([this] { return squareWindows(120).empty(); }));
-    input.click({500, 300}, 2);
-    EXPECT_TRUE(
-        stays([this] { return squareWindows(120).empty(); }, std::chrono::milliseconds(300)));
-}
-
-TEST_F(CursorHalo, a_storm_of_clicks_is_played_and_all_gone_afterwards) {
-    startAnnotating();
-    toggleHalo();
-    ASSERT_TRUE(eventually([&] {
-        input.click({500, 300}, 3);
-        return eventually([this] { return !squareWindows(120).empty(); },
-                          std::chrono::milliseconds(300));
-    }));
-    for (int click = 0; click < 100; ++click) {
-        input.click({300 + click, 300}, 3);
-    }
-    EXPECT_TRUE(eventually([this] { return squareWindows(120).size() > 10; }));
-    EXPECT_TRUE(eventually([this] { return squareWindows(120).empty(); }));
-    toggleHalo();
-    toggleAnnotation();
-    EXPECT_TRUE(eventually([this] { return !takesPointer(); }));
-}
-
-TEST_F(CursorHalo, the_program_ends_quietly_in_the_middle_of_an_animation) {
-    startAnnotating();
-    toggleHalo();
-    ASSERT_TRUE(eventually([&] {
-        input.click({500, 300}, 3);
-        return eventually([this] { return !squareWindows(120).empty(); },
-                          std::chrono::milliseconds(300));
-    }));
-    stop();
-    EXPECT_EQ(program->process().standardError(), "");
-}
-
-TEST_F(CursorHalo, a_compositor_that_goes_leaves_a_ring_with_the_screen_inside) {
-    startWithHaloAt({300, 300});
-    desktop.stopCompositor();
-    EXPECT_TRUE(haloComesTo({400, 300}));
-    EXPECT_TRUE(showsBackground({400 + 18, 300 + 18}));
-    EXPECT_TRUE(showsBackground({300 + 16, 300}));
-}
-
-TEST_F(CursorHalo, it_crosses_from_one_display_to_the_other) {
-    splitScreen(desktop.connection(), 450);
-    startWithHaloAt({300, 300});
-    for (const int x : {440, 449, 450, 451, 460, 700, 455, 200}) {
-        input.moveTo({x, 300});
-        EXPECT_TRUE(hasRing({x, 300})) << x;
-    }
-}
-
-/// At a scale of so many percent, as the user's session states it.
-class ScaledCursorHalo : public CursorHalo, public testing::WithParamInterface<int> {};
-
-TEST_P(ScaledCursorHalo, the_ring_grows_and_the_pointer_stays_in_its_middle) {
-    const std::string resources = "Xft.dpi:\t" + std::to_string(96 * GetParam() / 100) + "\n";
-    xcb_change_property(desktop.connection().get(), XCB_PROP_MODE_REPLACE,
-                        desktop.connection().root(), XCB_ATOM_RESOURCE_MANAGER, XCB_ATOM_STRING, 8,
-                        static_cast<std::uint32_t>(resources.size()), resources.c_str());
-    desktop.connection().synchronise();
-    start();
-    toggleHalo();
-    const int radius = kRadius * GetParam() / 100;
-    for (const Pixel place : {Pixel{301, 300}, Pixel{302, 303}, Pixel{603, 407}}) {
-        EXPECT_TRUE(eventually([&] {
-            input.moveTo({place.x - 3, place.y});
-            input.moveTo(place);
-            return eventually([&] { return showsRing(place, radius); },
-                              std::chrono::milliseconds(100));
-        })) << place.x;
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(Scales, ScaledCursorHalo, testing::Values(125, 150, 200));
-
-TEST_F(CursorHalo, it_follows_changes_of_the_scale_and_the_pointer_stays_in_its_middle) {
-    DesktopScale scale(desktop.display(), 100);
-    startWithHaloAt({300, 300});
-    for (const int percent : {200, 125, 100}) {
-        scale.change(percent);
-        const int radius = kRadius * percent / 100;
-        for (const Pixel place : {Pixel{305, 300}, Pixel{600, 400}}) {
-            input.moveTo(place);
-            EXPECT_TRUE(eventually([&] { return showsRing(place, radius); })) << percent;
-        }
-    }
-}
-
-class CursorHaloWithoutCompositor : public CursorHalo {
-protected:
-    CursorHaloWithoutCompositor()
-        : CursorHalo({.width = 900, .height = 600, .hasCompositor = false}) {}
-};
-
-TEST_F(CursorHaloWithoutCompositor, the_screen_is_seen_inside_and_round_the_ring) {
-    startWithHaloAt({300, 300});
-    EXPECT_TRUE(showsBackground({318, 318}));
-    input.moveTo({500, 400});
-    EXPECT_TRUE(hasRing({500, 400}));
-    EXPECT_TRUE(showsBackground({518, 418}));
-    EXPECT_TRUE(showsBackground({316, 300}));
-    input.click({500, 400});
-    EXPECT_TRUE(eventually([this] { return below.pressCount() == 1; }));
-}
-
-TEST_F(CursorHaloWithoutCompositor, a_translucent_colour_is_shown_as_itself_and_not_darkened) {
-    startWithHaloAt({300, 300});
-    // The edge of the line is translucent, and has the colour of the line all the same.
-    const auto isHaloOrScreen = [&](Pixel place) {
-        const Rgb seen = screen.pixel(place);
-        return isHalo(seen) || seen == kBackground;
-    };
-    for (int x = 280; x < 320; ++x) {
-        for (int y = 280; y < 320; ++y) {
-            // What the halo left on its way is for the window below to paint again.
-            EXPECT_TRUE(eventually([&] {
-                return isHaloOrScreen({x, y});
-            })) << x
-                << ", " << y << ": " << screen.pixel({x, y});
-        }
-    }
-}
-
-TEST_F(CursorHaloWithoutCompositor, the_overlay_that_holds_the_pointer_holds_the_halo_still) {
-    startWithHaloAt({300, 300});
-    toggleAnnotation();
-    ASSERT_TRUE(eventually([this] {
-        const int before = below.pressCount();
-        if (!isPointerHeld()) {
-            return false;
-        }
-        input.click({700, 500}, 3);
-        return eventually([this] { return !squareWindows(120).empty(); }) && isPointerHeld() &&
-               below.pressCount() == before;
-    }));
-    const auto before = cornerOf(squareWindows(40).at(0));
-    input.moveTo({600, 200});
-    EXPECT_TRUE(stays([&] { return cornerOf(squareWindows(40).at(0)) == before; },
-                      std::chrono::milliseconds(200)));
 }
 
 } // namespace
