@@ -1,8 +1,8 @@
 #include "spotlight/SpotlightTest.h"
+#include "support/HostAfterHost.h"
 
 #include <algorithm>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -251,32 +251,22 @@ TEST_F(SpotlightManagerTest, a_change_of_a_published_property_is_announced) {
     EXPECT_EQ(announcements, 2);
 }
 
-TEST(SpotlightMonitor, a_place_that_waits_is_not_taken_after_the_manager_has_gone) {
-    /// Keeps what waits, also beyond the end of a host.
-    struct KeepingQueue : HandTurnedQueue {
-        void clear() override {}
-    } queue;
-    FakePorts fakes;
-    auto ports = fakes.ports();
-    ports.mainQueue = queue;
-    auto host = std::make_optional<Host>(ports);
+TEST(SpotlightAfterItsHost, a_place_that_waits_is_not_taken) {
+    HostAfterHost hosts;
     SpotlightManager::shared().isSpotlightEnabled = true;
-    host.reset();
-    EXPECT_FALSE(queue.isIdle());
-    host.emplace(ports);
-    fakes.windows.calls.clear();
-    queue.run();
-    EXPECT_TRUE(fakes.windows.calls.empty());
+    hosts.replaceHost();
+    EXPECT_FALSE(hosts.queue().isIdle());
+    hosts.queue().run();
+    EXPECT_TRUE(hosts.windows().calls.empty());
 }
 
-TEST(SpotlightMonitor, after_the_manager_a_monitor_is_deaf) {
-    FakePorts fakes;
-    auto host = std::make_optional<Host>(fakes.ports());
+TEST(SpotlightAfterItsHost, a_monitor_is_deaf) {
+    HostAfterHost hosts;
     SpotlightManager::shared().isSpotlightEnabled = true;
-    host.reset();
-    host.emplace(fakes.ports());
-    fakes.eventMonitors.sendToOthers(NSEventType::mouseMoved, {10, 10});
-    EXPECT_TRUE(fakes.mainQueue.isIdle());
+    hosts.queue().run();
+    hosts.replaceHost();
+    hosts.eventMonitors().sendToOthers(NSEventType::mouseMoved, {10, 10});
+    EXPECT_TRUE(hosts.queue().isIdle());
 }
 
 } // namespace
