@@ -73,7 +73,10 @@ QtWindow::~QtWindow() {
 void QtWindow::setFrame(const CGRect& frame) {
     const auto& content = m_window.contentView();
     m_placement.setFrame(frame.outset(content ? content->rootView->overflow() : 0));
-    followPanels();
+    // A window that follows the pointer takes it nowhere, wherever it stands.
+    if (!m_window.ignoresMouseEvents()) {
+        followPanels();
+    }
 }
 
 void QtWindow::display() {
