@@ -130,19 +130,6 @@ protected:
     WithoutCompositor()
         : ProgramTest({.width = 900, .height = 600, .hasCompositor = false}) {}
 
-    /// Whether somebody holds the pointer, which the server tells to one who asks for it.
-    bool isPointerHeld() {
-        auto& connection = desktop.connection();
-        const auto request = xcb_grab_pointer(
-            connection.get(), 0, connection.root(), XCB_EVENT_MASK_BUTTON_PRESS,
-            XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC, XCB_NONE, XCB_NONE, XCB_CURRENT_TIME);
-        const XOwned<xcb_grab_pointer_reply_t> reply(
-            xcb_grab_pointer_reply(connection.get(), request, nullptr));
-        xcb_ungrab_pointer(connection.get(), XCB_CURRENT_TIME);
-        connection.synchronise();
-        return reply && reply->status == XCB_GRAB_STATUS_ALREADY_GRABBED;
-    }
-
     bool isCaught(Pixel place) {
         const int before = below.pressCount();
         input.click(place);
@@ -176,6 +163,19 @@ TEST_F(WithoutCompositor, with_annotation_off_clicks_reach_below_also_through_th
     EXPECT_FALSE(isCaught({500, 400}));
     EXPECT_FALSE(isCaught({200, 100}));
     EXPECT_TRUE(showsInk({200, 100}));
+}
+
+TEST_F(WithoutCompositor, text_can_be_typed) {
+    prepareTool(DrawingTool::text);
+    start();
+    toggleAnnotation();
+    ASSERT_TRUE(eventually([this] { return isPointerHeld(); }));
+    input.click({300, 200});
+    ASSERT_TRUE(screen.waitForPixel({380, 200}, [](Rgb seen) { return seen.red > 200; }));
+    input.type("Hill");
+    input.tap("Return");
+    EXPECT_TRUE(showsText({300, 200}));
+    EXPECT_TRUE(showsBackground({380, 200}));
 }
 
 } // namespace

@@ -94,6 +94,7 @@ protected:
     }
 
     bool showsInk(Pixel place) { return screen.waitForColor(place, kInk); }
+    bool showsBackground(Pixel place) { return screen.waitForColor(place, kBackground); }
     /// Whether any pixel of the row holds ink between the two columns.
     bool hasInkInRow(int y, int left, int right) {
         for (int x = left; x < right; ++x) {
@@ -114,7 +115,6 @@ protected:
             return false;
         });
     }
-    bool showsBackground(Pixel place) { return screen.waitForColor(place, kBackground); }
 
     VirtualDesktop desktop;
     InputDriver input{desktop.connection()};
