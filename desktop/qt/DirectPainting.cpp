@@ -80,9 +80,10 @@ void DirectPainting::paint(const QRect& rect) {
 }
 
 void DirectPainting::clear(const QRect& pixels) {
-    const auto rowLength = static_cast<std::size_t>(pixels.width()) * sizeof(QRgb);
+    constexpr int bytesPerPixel = sizeof(QRgb);
+    const auto rowLength = static_cast<std::size_t>(pixels.width() * bytesPerPixel);
     for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
-        std::memset(m_pixels.scanLine(y) + pixels.left() * sizeof(QRgb), 0, rowLength);
+        std::memset(m_pixels.scanLine(y) + pixels.left() * bytesPerPixel, 0, rowLength);
     }
 }
 

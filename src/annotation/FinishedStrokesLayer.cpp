@@ -177,11 +177,11 @@ Damage FinishedStrokesLayer::repaintStep() {
     if (!m_repaint) {
         beginRepaint();
     }
-    auto& [cells, bounds, walk, sheet] = *m_repaint;
-    sheet->paint(bounds, [&](GraphicsContext& context) {
-        walk.goOn(context, m_graphics, PaintArea(bounds, cells), kStep);
+    Repaint& repaint = *m_repaint;
+    repaint.sheet->paint(repaint.bounds, [&](GraphicsContext& context) {
+        repaint.walk.goOn(context, m_graphics, PaintArea(repaint.bounds, repaint.cells), kStep);
     });
-    return walk.isAtEnd() ? endRepaint() : Damage();
+    return repaint.walk.isAtEnd() ? endRepaint() : Damage();
 }
 
 void FinishedStrokesLayer::beginRepaint() {
