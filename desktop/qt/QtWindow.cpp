@@ -3,6 +3,7 @@
 #include "desktop/qt/QtConversions.h"
 #include "desktop/qt/TitledWindows.h"
 #include "desktop/x11/BlurBehind.h"
+#include "desktop/x11/PointerGrab.h"
 #include "desktop/x11/WindowOrder.h"
 #include "desktop/x11/WindowShape.h"
 #include "desktop/x11/XRectangles.h"
@@ -133,7 +134,7 @@ void QtWindow::grabPointerIfNeeded() {
     if (m_grabsPointer == wanted) {
         return;
     }
-    const bool done = m_widget.windowHandle()->setMouseGrabEnabled(wanted);
+    const bool done = wanted ? grabPointer() : m_widget.windowHandle()->setMouseGrabEnabled(false);
     noteGrab(wanted && done);
     m_popups.reset();
     if (m_grabsPointer) {
@@ -153,11 +154,15 @@ void QtWindow::grabPointerIfNeeded() {
 }
 
 void QtWindow::confirmGrab() {
-    if (m_grabsPointer && !PopupWatch::isPopupOpen() &&
-        !m_widget.windowHandle()->setMouseGrabEnabled(true)) {
+    if (m_grabsPointer && !PopupWatch::isPopupOpen() && !grabPointer()) {
         // A press came in between, and somebody else has the pointer until its release.
         QTimer::singleShot(kGrabAgain, &m_widget, [this] { confirmGrab(); });
     }
+}
+
+bool QtWindow::grabPointer() {
+    // The toolkit's own grab would take the pointer from the settings window as well.
+    return grabPointerButOverOwnWindows(m_surroundings.connection, nativeWindow());
 }
 
 void QtWindow::followInputRegion() {

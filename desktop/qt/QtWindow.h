@@ -64,6 +64,8 @@ private:
     void followCompositor();
     void grabPointerIfNeeded();
     void confirmGrab();
+    /// False while somebody else holds the pointer.
+    bool grabPointer();
     void noteGrab(bool grabs);
     /// Says where the window takes the pointer.
     void followInputRegion();

@@ -252,5 +252,32 @@ TEST_F(SettingsOnScreen, the_end_of_the_program_with_the_window_open_is_a_clean_
     EXPECT_EQ(program->process().standardError(), "");
 }
 
+/// The same where the overlay holds the pointer as a whole.
+class SettingsWithoutCompositor : public SettingsTest {
+protected:
+    SettingsWithoutCompositor()
+        : SettingsTest({.width = 1000, .height = 800, .hasCompositor = false}) {}
+};
+
+TEST_F(SettingsWithoutCompositor, annotation_switched_on_later_leaves_the_window_in_reach) {
+    startAndOpen();
+    toggleAnnotation();
+    ASSERT_TRUE(eventually([this] { return isPointerHeld(); }));
+    input.click(switchOf(0, 1));
+    EXPECT_TRUE(isOn(switchOf(0, 1)));
+}
+
+TEST_F(SettingsWithoutCompositor, text_can_be_typed_beside_the_window) {
+    prepareTool(DrawingTool::text);
+    startAndOpen();
+    toggleAnnotation();
+    ASSERT_TRUE(eventually([this] { return isPointerHeld(); }));
+    input.click({60, 500});
+    ASSERT_TRUE(screen.waitForPixel({140, 500}, [](Rgb seen) { return seen.red > 200; }));
+    input.type("Hill");
+    input.tap("Return");
+    EXPECT_TRUE(showsText({60, 500}));
+}
+
 } // namespace
 } // namespace quillon::test
