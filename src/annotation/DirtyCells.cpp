@@ -63,6 +63,10 @@ void DirtyCells::remove(const DirtyCells& other) {
                            [](std::uint64_t mine, std::uint64_t theirs) { return mine & ~theirs; });
 }
 
+void DirtyCells::keep(const DirtyCells& other) {
+    std::ranges::transform(m_words, other.m_words, m_words.begin(), std::bit_and{});
+}
+
 bool DirtyCells::isEmpty() const {
     return std::ranges::all_of(m_words, [](std::uint64_t word) { return word == 0; });
 }

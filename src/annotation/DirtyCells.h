@@ -25,6 +25,8 @@ public:
     /// These take the cells of another grid of the same size and scale.
     void add(const DirtyCells& other);
     void remove(const DirtyCells& other);
+    /// Leaves only what is dirty in both.
+    void keep(const DirtyCells& other);
 
     bool isEmpty() const;
     /// False only when `rect` shares no area with a dirty cell.

@@ -10,7 +10,7 @@ namespace {
 constexpr std::size_t kMostOnTop = 64;
 
 /// To draw this much takes about a tenth of a millisecond, and so does the look at so many strokes.
-constexpr StrokeWalk::Budget kStep{.looks = 2000, .segments = 64};
+constexpr StrokeWalk::Budget kStep{.looks = 1000, .segments = 32};
 
 Damage damageOf(const DirtyCells& cells) {
     Damage damage;
@@ -50,6 +50,7 @@ Damage FinishedStrokesLayer::update(const StrokeList& strokes, FadingStrokes fad
     if (!m_bitmap) {
         m_bitmap = m_graphics.makeBitmap(m_size, m_scale);
     }
+    rememberHighlighters(difference);
     const auto appended = takeAppended(difference, strokes);
     m_dirty.add(changes(difference, fading));
     m_strokes = strokes;
@@ -61,7 +62,7 @@ void FinishedStrokesLayer::putAside() {
     // Of two pictures the one of more strokes is worth more.
     const bool isWorthMore = !m_aside || m_strokes.size() >= m_aside->strokes.size();
     if (m_bitmap && m_fading.empty() && isWorthMore) {
-        m_aside = {m_strokes, std::move(m_bitmap), behind()};
+        m_aside = {m_strokes, std::move(m_bitmap), behind(), m_highlighted};
     }
 }
 
@@ -73,6 +74,7 @@ bool FinishedStrokesLayer::takeBack(const StrokeList& strokes) {
     m_strokes = strokes;
     m_bitmap = std::move(aside.bitmap);
     m_dirty = std::move(aside.dirty);
+    m_highlighted = std::move(aside.highlighted);
     return true;
 }
 
@@ -81,6 +83,7 @@ void FinishedStrokesLayer::clear() {
     m_fading.clear();
     m_bitmap.reset();
     m_dirty = DirtyCells(m_size, m_scale);
+    m_highlighted = m_dirty;
     m_repaint.reset();
 }
 
@@ -110,30 +113,30 @@ DirtyCells FinishedStrokesLayer::drawOnTop(const std::vector<StrokeRef>& appende
             drawStroke(context, stroke->stroke(), blendModeOf(stroke->stroke().tool),
                        stroke->segments());
         });
+        drawn.add(ink);
         if (m_repaint) {
             m_repaint->cells.remove(ink);
-        }
-        if (m_repaint || isUnderHighlighter(*stroke, ink)) {
+            m_dirty.add(ink);
+        } else if (stroke->stroke().tool != DrawingTool::highlighter) {
+            ink.keep(m_highlighted);
             m_dirty.add(ink);
         }
-        drawn.add(ink);
     }
     return drawn;
 }
 
-bool FinishedStrokesLayer::isUnderHighlighter(const FinishedStroke& stroke,
-                                              const DirtyCells& ink) const {
-    if (stroke.stroke().tool == DrawingTool::highlighter) {
-        return false;
-    }
-    for (std::size_t index = 0; index < m_strokes.size(); ++index) {
-        const auto& other = *m_strokes.ref(index);
-        if (other.stroke().tool == DrawingTool::highlighter &&
-            ink.meets(other.inkBounds(m_graphics))) {
-            return true;
+void FinishedStrokesLayer::rememberHighlighters(const StrokeList::Difference& difference) {
+    const auto remember = [this](const FinishedStroke& stroke) {
+        if (stroke.stroke().tool == DrawingTool::highlighter) {
+            stroke.visitInk(m_graphics, [this](const CGRect& ink) { m_highlighted.add(ink); });
         }
+    };
+    for (const auto& stroke : difference.added) {
+        remember(*stroke);
     }
-    return false;
+    for (const auto& [before, after] : difference.replaced) {
+        remember(*after);
+    }
 }
 
 DirtyCells FinishedStrokesLayer::changes(const StrokeList::Difference& difference,

@@ -44,7 +44,7 @@ public:
 
     /// Whether there is something left to repaint.
     bool isBehind() const { return m_repaint || !m_dirty.isEmpty(); }
-    /// Takes one more step, however many strokes there are not much more than some 64 segments
+    /// Takes one more step, however many strokes there are not much more than some 32 segments
     /// long; answers where the picture has changed by it.
     Damage repaintStep();
 
@@ -58,6 +58,7 @@ private:
         std::unique_ptr<Bitmap> bitmap;
         /// Where the bitmap does not show the strokes yet.
         DirtyCells dirty;
+        DirtyCells highlighted;
     };
     struct Repaint {
         DirtyCells cells;
@@ -78,7 +79,7 @@ private:
                                                const StrokeList& strokes);
     /// Answers where.
     DirtyCells drawOnTop(const std::vector<StrokeRef>& appended);
-    bool isUnderHighlighter(const FinishedStroke& stroke, const DirtyCells& ink) const;
+    void rememberHighlighters(const StrokeList::Difference& difference);
     /// What differs between the picture of the last update and one of these.
     DirtyCells changes(const StrokeList::Difference& difference, const FadingStrokes& fading) const;
     /// Where the bitmap does not show the strokes.
@@ -94,6 +95,9 @@ private:
     std::unique_ptr<Bitmap> m_bitmap;
     /// Not yet begun to be repainted.
     DirtyCells m_dirty{{}, 1};
+    /// Where a highlighter stroke has lain since the bitmap came, and what is drawn on top may
+    /// belong below it.
+    DirtyCells m_highlighted{{}, 1};
     std::optional<Repaint> m_repaint;
     std::optional<Picture> m_aside;
 };

@@ -51,6 +51,10 @@ TEST(DirtyCells, take_those_of_another_grid_and_give_them_up_again) {
     cells.remove(other);
     EXPECT_EQ(cells.rects(), (std::vector<CGRect>{{0, 0, 16, 8}}));
     EXPECT_FALSE(cells.isEmpty());
+    other.keep(cells);
+    EXPECT_TRUE(other.isEmpty());
+    cells.keep(cells);
+    EXPECT_EQ(cells.rects(), (std::vector<CGRect>{{0, 0, 16, 8}}));
     cells.remove(cells);
     EXPECT_TRUE(cells.isEmpty());
 }

@@ -122,6 +122,27 @@ TEST_F(FinishedLayer, a_stroke_under_a_highlighter_stroke_is_seen_at_once_and_th
     EXPECT_EQ(repainted(), (Widths{7, 3}));
 }
 
+TEST_F(FinishedLayer, a_stroke_is_put_below_a_highlighter_stroke_only_where_they_meet) {
+    StrokeList strokes{freehand({{300, 0}, {300, 60}}, DrawingTool::highlighter, 3)};
+    drawnBy(strokes);
+    strokes.append(freehand({{10, 30}, {900, 30}}, DrawingTool::pen, 7));
+    drawnAtOnceBy(strokes);
+    damage = {};
+    EXPECT_EQ(repainted(), (Widths{7, 3}));
+    EXPECT_TRUE(damage.intersects({299, 29, 2, 2}));
+    EXPECT_FALSE(damage.intersects({0, 0, 280, 60}));
+    EXPECT_FALSE(damage.intersects({320, 0, 600, 60}));
+}
+
+TEST_F(FinishedLayer, the_undo_of_a_clear_brings_the_places_of_highlighter_strokes_back) {
+    StrokeList strokes{freehand({a, b}, DrawingTool::highlighter, 3)};
+    drawnBy(strokes);
+    drawnBy({});
+    drawnBy(strokes);
+    strokes.append(pen(7));
+    EXPECT_EQ(drawnBy(strokes), (Widths{7, 7, 3}));
+}
+
 TEST_F(FinishedLayer, a_stroke_apart_from_every_highlighter_stroke_is_drawn_alone) {
     StrokeList strokes{freehand({{500, 500}, {600, 600}}, DrawingTool::highlighter, 3)};
     drawnBy(strokes);
@@ -160,9 +181,9 @@ TEST_F(FinishedLayer, no_step_draws_more_than_it_may) {
     for (int step = 0; step < 7; ++step) {
         graphics.drawn.clear();
         layer.repaintStep();
-        EXPECT_EQ(graphics.drawn.size(), 64U);
+        EXPECT_EQ(graphics.drawn.size(), 32U);
     }
-    EXPECT_EQ(repainted().size(), 500U - 7 * 64);
+    EXPECT_EQ(repainted().size(), 500U - 7 * 32);
 }
 
 TEST_F(FinishedLayer, no_step_looks_at_more_strokes_than_it_may) {
@@ -172,7 +193,7 @@ TEST_F(FinishedLayer, no_step_looks_at_more_strokes_than_it_may) {
     }
     drawnBy(strokes);
     layer.update(without(strokes, 2), {});
-    EXPECT_EQ(stepsToTheEnd(), 5);
+    EXPECT_EQ(stepsToTheEnd(), 10);
 }
 
 TEST_F(FinishedLayer, a_stroke_drawn_during_a_repaint_is_seen_at_once_and_stays) {
@@ -224,7 +245,7 @@ TEST_F(FinishedLayer, changes_that_follow_each_other_fast_hold_up_no_repaint) {
         layer.update(strokes, {{gone, 1 - frame / 100.0}});
         shown += layer.repaintStep().isEmpty() ? 0 : 1;
     }
-    EXPECT_EQ(shown, 100 / 8);
+    EXPECT_EQ(shown, 100 / 16);
 }
 
 TEST_F(FinishedLayer, a_clear_during_a_repaint_ends_it_and_clears_what_it_left) {
