@@ -1,8 +1,7 @@
 #include "annotation/AnnotationCanvas.h"
 #include "annotation/StrokeRenderer.h"
-#include "desktop/qt/QtConversions.h"
+#include "desktop/painting/PaintedPicture.h"
 #include "desktop/qt/QtGraphics.h"
-#include "desktop/qt/QtGraphicsContext.h"
 #include "support/FakeHost.h"
 
 #include <QGuiApplication>
@@ -23,9 +22,7 @@ class OverlayOnScreen {
 public:
     explicit OverlayOnScreen(CGFloat scale)
         : m_scale(scale)
-        , m_screen(devicePixels({0, 0, kSize.width, kSize.height}, scale).size(),
-                   QImage::Format_ARGB32_Premultiplied) {
-        m_screen.fill(Qt::transparent);
+        , m_screen(blankPicture(kSize, scale)) {
         settings().isAnnotationEnabled = true;
         overlay.layout(kSize, scale);
         update();
@@ -56,8 +53,9 @@ public:
 
     /// The desktop asks for a part of the picture, at a time of its own.
     void expose(const CGRect& rect) {
-        paint(m_screen, rect,
-              [&](GraphicsContext& context, const CGRect& part) { overlay.paint(context, part); });
+        paintAnew(m_screen, rect, m_scale, [&](GraphicsContext& context, const CGRect& part) {
+            overlay.paint(context, part);
+        });
     }
 
     /// The plain walk: every segment of every stroke, over the whole screen, from nothing.
@@ -70,7 +68,7 @@ public:
             path.addRect({0, 0, kSize.width, kSize.height});
             context.fill(path, Color::white.opacity(whiteboardOpacity));
         });
-        QImage picture = blank();
+        QImage picture = blankPicture(kSize, m_scale);
         QPainter painter(&picture);
         painter.drawImage(0, 0, sheet);
         for (int canvas = 0; canvas < (overlay.upperCanvas() ? 2 : 1); ++canvas) {
@@ -100,30 +98,6 @@ public:
     OverlayContainerView overlay{AppSettings::shared()};
 
 private:
-    template <typename Body>
-    void paint(QImage& picture, const CGRect& rect, Body&& body) {
-        const QRect pixels = devicePixels(rect, m_scale) & picture.rect();
-        if (pixels.isEmpty()) {
-            return;
-        }
-        QPainter painter(&picture);
-        painter.setClipRect(pixels);
-        painter.setCompositionMode(QPainter::CompositionMode_Source);
-        painter.fillRect(pixels, Qt::transparent);
-        painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-        painter.scale(m_scale, m_scale);
-        const CGRect part{pixels.x() / m_scale, pixels.y() / m_scale, pixels.width() / m_scale,
-                          pixels.height() / m_scale};
-        QtGraphicsContext context(painter, part, m_scale);
-        body(context, part);
-    }
-
-    QImage blank() const {
-        QImage picture(m_screen.size(), m_screen.format());
-        picture.fill(Qt::transparent);
-        return picture;
-    }
-
     /// Draws with a clip so wide that nothing is left out.
     template <typename Body>
     void drawOn(QPainter& painter, Body&& body) {
@@ -136,7 +110,7 @@ private:
 
     template <typename Body>
     QImage painted(Body&& body) {
-        QImage picture = blank();
+        QImage picture = blankPicture(kSize, m_scale);
         QPainter painter(&picture);
         drawOn(painter, body);
         return picture;

@@ -1,12 +1,10 @@
-#include "desktop/qt/QtConversions.h"
+#include "desktop/painting/PaintedPicture.h"
 #include "desktop/qt/QtGraphics.h"
-#include "desktop/qt/QtGraphicsContext.h"
 #include "desktop/qt/StampedContent.h"
 #include "desktop/support/VirtualDesktop.h"
 #include "spotlight/CircleDamage.h"
 #include "spotlight/DimmedPicture.h"
 
-#include <QPainter>
 #include <gtest/gtest.h>
 
 #include <random>
@@ -21,35 +19,10 @@ CGRect wholeView() {
     return {0, 0, kSize.width, kSize.height};
 }
 
-QImage blank(CGFloat scale) {
-    QImage picture(devicePixels(wholeView(), scale).size(), QImage::Format_ARGB32_Premultiplied);
-    picture.fill(Qt::transparent);
-    return picture;
-}
-
-/// Paints `rect`, widened to device pixels, anew from nothing.
-template <typename Body>
-void paint(QImage& picture, const CGRect& rect, CGFloat scale, Body&& body) {
-    const QRect pixels = devicePixels(rect, scale) & picture.rect();
-    if (pixels.isEmpty()) {
-        return;
-    }
-    QPainter painter(&picture);
-    painter.setClipRect(pixels);
-    painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.fillRect(pixels, Qt::transparent);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    painter.scale(scale, scale);
-    const CGRect part{pixels.x() / scale, pixels.y() / scale, pixels.width() / scale,
-                      pixels.height() / scale};
-    QtGraphicsContext context(painter, part, scale);
-    body(context, part);
-}
-
 /// The whole as one even-odd fill, by the painter alone.
 QImage reference(const Circle& circle, CGFloat scale, const Color& color = kDark) {
-    QImage picture = blank(scale);
-    paint(picture, wholeView(), scale, [&](GraphicsContext& context, const CGRect&) {
+    QImage picture = blankPicture(kSize, scale);
+    paintAnew(picture, wholeView(), scale, [&](GraphicsContext& context, const CGRect&) {
         Path mask;
         mask.addRect(wholeView());
         mask.addEllipse(circle.bounds());
@@ -103,7 +76,7 @@ private:
 class ServerWindow {
 public:
     explicit ServerWindow(CGFloat scale)
-        : m_size(blank(scale).size()) {
+        : m_size(blankPicture(kSize, scale).size()) {
         const xcb_screen_t& screen = m_server.connection().screen();
         const xcb_visualid_t visual = translucentVisual(screen);
         const xcb_colormap_t colors = xcb_generate_id(connection());
@@ -158,9 +131,9 @@ TEST_P(SpotlightPicture, after_any_moves_it_is_the_even_odd_fill_of_the_whole) {
     const CGFloat scale = GetParam();
     QtGraphics graphics;
     DimmedPicture dimmed(graphics);
-    QImage screen = blank(scale);
+    QImage screen = blankPicture(kSize, scale);
     const auto paintOnScreen = [&](const CGRect& rect, const Circle& circle) {
-        paint(screen, rect, scale, [&](GraphicsContext& context, const CGRect& part) {
+        paintAnew(screen, rect, scale, [&](GraphicsContext& context, const CGRect& part) {
             dimmed.paint(context, part, circle, kDark, scale);
         });
     };

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "desktop/qt/QtConversions.h"
+#include "desktop/qt/QtGraphicsContext.h"
+
+#include <QImage>
+#include <QPainter>
+
+namespace quillon::desktop {
+
+/// A transparent picture of a view of that size, in points.
+inline QImage blankPicture(CGSize size, CGFloat scale) {
+    QImage picture(devicePixels({0, 0, size.width, size.height}, scale).size(),
+                   QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    return picture;
+}
+
+/// Paints `rect`, widened to device pixels, anew from nothing: `body` gets a context and the part
+/// that it is to paint.
+template <typename Body>
+void paintAnew(QImage& picture, const CGRect& rect, CGFloat scale, Body&& body) {
+    const QRect pixels = devicePixels(rect, scale) & picture.rect();
+    if (pixels.isEmpty()) {
+        return;
+    }
+    QPainter painter(&picture);
+    painter.setClipRect(pixels);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.fillRect(pixels, Qt::transparent);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    painter.scale(scale, scale);
+    const CGRect part{pixels.x() / scale, pixels.y() / scale, pixels.width() / scale,
+                      pixels.height() / scale};
+    QtGraphicsContext context(painter, part, scale);
+    body(context, part);
+}
+
+} // namespace quillon::desktop
