@@ -28,10 +28,7 @@ protected:
 };
 
 TEST_F(Drawing, the_pen_leaves_its_line) {
-    prepareTool(DrawingTool::pen);
-    startAnnotating();
-    input.drag({{100, 100}, {300, 100}});
-    EXPECT_TRUE(showsInk({200, 100}));
+    startWithLine();
     EXPECT_TRUE(showsBackground({200, 120}));
 }
 
@@ -84,7 +81,7 @@ TEST_F(Drawing, no_place_is_lost_where_keys_other_buttons_and_the_wheel_meet_a_s
             input.click(tips[tip], 4);
             break;
         default:
-            input.chord({"Super_L", "Shift_L", "h"});
+            pressShortcut("h");
         }
     }
     input.release();
@@ -121,8 +118,7 @@ TEST_F(Drawing, a_stroke_that_comes_back_to_the_very_place_of_its_press_begins_a
 TEST_F(Drawing, the_highlighter_leaves_a_line_of_its_width) {
     prepareTool(DrawingTool::highlighter, 20);
     startAnnotating();
-    input.drag({{100, 100}, {300, 100}});
-    EXPECT_TRUE(showsInk({200, 100}));
+    drawLineAt(100);
     EXPECT_TRUE(showsInk({200, 107}));
     EXPECT_TRUE(showsBackground({200, 125}));
 }
@@ -157,8 +153,7 @@ TEST_F(Drawing, the_line_goes_from_press_to_release) {
 TEST_F(Drawing, the_arrow_has_its_head_at_the_release) {
     prepareTool(DrawingTool::arrow, 3);
     startAnnotating();
-    input.drag({{100, 200}, {300, 200}});
-    EXPECT_TRUE(showsInk({200, 200}));
+    drawLineAt(200);
     // A barb ends 15 points away at 30 degrees.
     EXPECT_TRUE(showsInk({289, 194}));
     EXPECT_TRUE(showsInk({289, 206}));
@@ -196,10 +191,7 @@ TEST_F(Drawing, a_click_without_a_move_leaves_nothing_of_the_pen) {
 }
 
 TEST_F(Drawing, clear_takes_everything_away) {
-    prepareTool(DrawingTool::pen);
-    startAnnotating();
-    input.drag({{100, 100}, {300, 100}});
-    ASSERT_TRUE(showsInk({200, 100}));
+    startWithLine();
     clear();
     EXPECT_TRUE(showsBackground({200, 100}));
 }
@@ -213,11 +205,10 @@ TEST_F(Drawing, undo_and_redo_work_by_the_shortcuts_that_the_store_binds) {
         settings.hotkeys = hotkeys;
     });
     startAnnotating();
-    input.drag({{100, 100}, {300, 100}});
-    ASSERT_TRUE(showsInk({200, 100}));
-    input.chord({"Super_L", "Shift_L", "z"});
+    drawLineAt(100);
+    pressShortcut("z");
     EXPECT_TRUE(showsBackground({200, 100}));
-    input.chord({"Super_L", "Shift_L", "y"});
+    pressShortcut("y");
     EXPECT_TRUE(showsInk({200, 100}));
 }
 
@@ -225,8 +216,7 @@ TEST_F(Drawing, auto_erase_takes_a_stroke_after_its_time) {
     prepareTool(DrawingTool::pen);
     prepare([](AppSettings& settings) { settings.autoEraseTimer = AutoEraseTimer::twoSeconds; });
     startAnnotating();
-    input.drag({{100, 100}, {300, 100}});
-    ASSERT_TRUE(showsInk({200, 100}));
+    drawLineAt(100);
     EXPECT_TRUE(stays(
         [this] {
             return isNear(screen.pixel({200, 100}), kInk);

@@ -87,8 +87,7 @@ TEST_F(Life, a_start_comes_up_in_the_mode_in_which_the_program_was_left) {
 
     start();
     ASSERT_TRUE(screen.waitForPixel({450, 300}, isSheet));
-    input.drag({{100, 100}, {300, 100}});
-    EXPECT_TRUE(showsInk({200, 100}));
+    drawLineAt(100);
     toggleAnnotation();
     ASSERT_TRUE(showsBackground({450, 300}));
     stop();

@@ -12,10 +12,7 @@ TEST_F(Modes, before_annotation_every_click_reaches_the_window_below) {
 }
 
 TEST_F(Modes, annotation_takes_the_clicks_and_gives_them_back_with_the_drawing_still_there) {
-    prepareTool(DrawingTool::pen);
-    startAnnotating();
-    input.drag({{100, 100}, {300, 100}});
-    ASSERT_TRUE(showsInk({200, 100}));
+    startWithLine();
     EXPECT_EQ(below.pressCount(), 0);
 
     toggleAnnotation();
@@ -33,20 +30,15 @@ TEST_F(Modes, the_whiteboard_covers_the_screen_and_can_be_drawn_on) {
     const Rgb sheet{233, 235, 238};
     EXPECT_TRUE(screen.waitForColor({450, 300}, sheet));
     EXPECT_TRUE(screen.waitForColor({2, 42}, sheet));
-    input.drag({{100, 100}, {300, 100}});
-    EXPECT_TRUE(showsInk({200, 100}));
+    drawLineAt(100);
 }
 
 TEST_F(Modes, the_whiteboard_wipes_the_drawing_on_its_way_in_and_out_and_leaves_annotation_on) {
-    prepareTool(DrawingTool::pen);
-    startAnnotating();
-    input.drag({{100, 100}, {300, 100}});
-    ASSERT_TRUE(showsInk({200, 100}));
+    startWithLine();
     toggleWhiteboard();
     ASSERT_TRUE(screen.waitForPixel({450, 300}, [](Rgb seen) { return seen.red > 225; }));
     EXPECT_FALSE(isNear(screen.pixel({200, 100}), kInk));
-    input.drag({{100, 200}, {300, 200}});
-    ASSERT_TRUE(showsInk({200, 200}));
+    drawLineAt(200);
     toggleWhiteboard();
     EXPECT_TRUE(showsBackground({200, 200}));
     EXPECT_TRUE(takesPointer());
@@ -98,8 +90,7 @@ TEST_F(Modes, other_buttons_and_the_wheel_draw_nothing_and_reach_nobody) {
         input.release(button);
     }
     input.click({200, 100}, 4);
-    input.drag({{100, 200}, {300, 200}});
-    ASSERT_TRUE(showsInk({200, 200}));
+    drawLineAt(200);
     EXPECT_TRUE(showsBackground({200, 100}));
     EXPECT_EQ(below.pressCount(), 0);
 }
@@ -109,15 +100,11 @@ TEST_F(Modes, a_start_with_annotation_stored_on_takes_the_pointer_by_itself) {
     prepare([](AppSettings& settings) { settings.isAnnotationEnabled = true; });
     start();
     ASSERT_TRUE(eventually([this] { return takesPointer(); }));
-    input.drag({{100, 100}, {300, 100}});
-    EXPECT_TRUE(showsInk({200, 100}));
+    drawLineAt(100);
 }
 
 TEST_F(Modes, the_overlay_stays_above_a_window_that_comes_later) {
-    prepareTool(DrawingTool::pen);
-    startAnnotating();
-    input.drag({{100, 100}, {300, 100}});
-    ASSERT_TRUE(showsInk({200, 100}));
+    startWithLine();
     ProbeWindow later(desktop.display(), {50, 50, 400, 300}, {20, 120, 20});
     later.activate();
     EXPECT_TRUE(screen.waitForColor({200, 130}, {20, 120, 20}));
@@ -130,6 +117,12 @@ protected:
     WithoutCompositor()
         : ProgramTest({.width = 900, .height = 600, .hasCompositor = false}) {}
 
+    void startHoldingThePointer(DrawingTool tool = DrawingTool::pen) {
+        prepareTool(tool);
+        start();
+        toggleAnnotation();
+        ASSERT_TRUE(eventually([this] { return isPointerHeld(); }));
+    }
     bool isCaught(Pixel place) {
         const int before = below.pressCount();
         input.click(place);
@@ -138,26 +131,18 @@ protected:
 };
 
 TEST_F(WithoutCompositor, the_screen_stays_to_be_seen_round_the_strokes) {
-    prepareTool(DrawingTool::pen);
-    start();
-    toggleAnnotation();
-    ASSERT_TRUE(eventually([this] { return isPointerHeld(); }));
+    startHoldingThePointer();
     EXPECT_TRUE(isCaught({500, 400}));
     EXPECT_TRUE(showsBackground({450, 300}));
-    input.drag({{100, 100}, {300, 100}});
-    EXPECT_TRUE(showsInk({200, 100}));
+    drawLineAt(100);
     EXPECT_TRUE(showsBackground({200, 120}));
     clear();
     EXPECT_TRUE(showsBackground({200, 100}));
 }
 
 TEST_F(WithoutCompositor, with_annotation_off_clicks_reach_below_also_through_the_strokes) {
-    prepareTool(DrawingTool::pen);
-    start();
-    toggleAnnotation();
-    ASSERT_TRUE(eventually([this] { return isPointerHeld(); }));
-    input.drag({{100, 100}, {300, 100}});
-    ASSERT_TRUE(showsInk({200, 100}));
+    startHoldingThePointer();
+    drawLineAt(100);
     toggleAnnotation();
     ASSERT_TRUE(eventually([this] { return !isPointerHeld(); }));
     EXPECT_FALSE(isCaught({500, 400}));
@@ -166,10 +151,7 @@ TEST_F(WithoutCompositor, with_annotation_off_clicks_reach_below_also_through_th
 }
 
 TEST_F(WithoutCompositor, text_can_be_typed) {
-    prepareTool(DrawingTool::text);
-    start();
-    toggleAnnotation();
-    ASSERT_TRUE(eventually([this] { return isPointerHeld(); }));
+    startHoldingThePointer(DrawingTool::text);
     input.click({300, 200});
     ASSERT_TRUE(screen.waitForPixel({380, 200}, [](Rgb seen) { return seen.red > 200; }));
     input.type("Hill");

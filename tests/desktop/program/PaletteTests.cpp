@@ -340,8 +340,7 @@ TEST_F(PaletteWithoutCompositor, drawing_goes_on_after_a_menu_and_after_the_popo
     input.click(entry(kTool, 0));
     ASSERT_TRUE(showsBackground(entry(kTool, 4)));
     ASSERT_TRUE(eventually([this] { return isPointerHeld(); }));
-    input.drag({{100, 400}, {300, 400}});
-    EXPECT_TRUE(showsInk({200, 400}));
+    drawLineAt(400);
 
     input.click(at(kColor), 3);
     ASSERT_TRUE(showsPanel({kCenter.x - 120, 400}));
@@ -349,8 +348,7 @@ TEST_F(PaletteWithoutCompositor, drawing_goes_on_after_a_menu_and_after_the_popo
     ASSERT_TRUE(showsBackground({kCenter.x - 120, 440}));
     ASSERT_TRUE(eventually([this] { return isPointerHeld(); }));
     const int before = below.pressCount();
-    input.drag({{100, 450}, {300, 450}});
-    EXPECT_TRUE(showsInk({200, 450}));
+    drawLineAt(450);
     EXPECT_EQ(below.pressCount(), before);
 }
 

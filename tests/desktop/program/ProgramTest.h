@@ -77,7 +77,8 @@ protected:
         return pointer && pointer->child != XCB_NONE && pointer->child != childBefore;
     }
 
-    /// Whether a program holds the pointer as a whole.
+    /// Whether a program holds the pointer as a whole, which the server tells to one who asks for
+    /// it.
     bool isPointerHeld() {
         xcb_connection_t* connection = desktop.connection().get();
         // Nobody is to see this grab come and go.
@@ -91,6 +92,18 @@ protected:
         xcb_ungrab_server(connection);
         desktop.connection().synchronise();
         return grab && grab->status == XCB_GRAB_STATUS_ALREADY_GRABBED;
+    }
+
+    /// Draws a level line from x 100 to 300, and waits until its middle is there.
+    void drawLineAt(int y) {
+        input.drag({{100, y}, {300, y}});
+        ASSERT_TRUE(showsInk({200, y}));
+    }
+    /// Starts the program, switches annotation on, and draws a red line with the pen.
+    void startWithLine() {
+        prepareTool(DrawingTool::pen);
+        startAnnotating();
+        drawLineAt(100);
     }
 
     bool showsInk(Pixel place) { return screen.waitForColor(place, kInk); }

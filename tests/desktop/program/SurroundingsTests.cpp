@@ -24,8 +24,7 @@ TEST_F(Surroundings, the_drawing_stands_above_a_window_that_fills_the_screen) {
     film.fillScreen();
     ASSERT_TRUE(screen.waitForColor({890, 10}, {20, 120, 20}));
     EXPECT_TRUE(showsInk({200, 100}));
-    input.drag({{100, 200}, {300, 200}});
-    EXPECT_TRUE(showsInk({200, 200}));
+    drawLineAt(200);
     EXPECT_EQ(film.pressCount(), 0);
 }
 
@@ -35,8 +34,7 @@ TEST_F(Surroundings, the_drawing_is_on_every_workspace) {
     ASSERT_TRUE(
         screen.waitForPixel({450, 300}, [](Rgb seen) { return !isNear(seen, kBackground); }));
     EXPECT_TRUE(showsInk({200, 100}));
-    input.drag({{100, 200}, {300, 200}});
-    EXPECT_TRUE(showsInk({200, 200}));
+    drawLineAt(200);
     desktop.showWorkspace(0);
     ASSERT_TRUE(showsBackground({450, 300}));
     EXPECT_TRUE(showsInk({200, 200}));
