@@ -1,7 +1,6 @@
 #include "desktop/qt/toolbar/PresetButton.h"
 
 #include "desktop/qt/Appearance.h"
-#include "desktop/qt/widgets/FocusRing.h"
 
 #include <QPainter>
 
@@ -15,25 +14,16 @@ constexpr int kHeight = 28;
 } // namespace
 
 PresetButton::PresetButton(const LineWidthPreset& preset, QWidget& parent)
-    : QAbstractButton(&parent)
-    , m_thickness(preset.height) {
-    setFixedSize(sizeHint());
-    setAttribute(Qt::WA_Hover);
-    setFocusPolicy(Qt::TabFocus);
-    setAccessibleName(tr("%1 points").arg(m_thickness));
-}
-
-QSize PresetButton::sizeHint() const {
-    return {qRound(LineWidthPreset::width), kHeight};
-}
+    : PaintedButton({qRound(LineWidthPreset::width), kHeight}, tr("%1 points").arg(preset.height),
+                    parent)
+    , m_thickness(preset.height) {}
 
 void PresetButton::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    const bool isPointedAt = underMouse() || FocusRing::isShown(*this);
     painter.setBrush(toQColor(
-        isPointedAt ? SystemColor::controlAccentColor : SystemColor::labelColor, palette()));
+        isPointedAt() ? SystemColor::controlAccentColor : SystemColor::labelColor, palette()));
     const QRectF bar(0, (height() - m_thickness) / 2, width(), m_thickness);
     const qreal radius = qMin(LineWidthPreset::cornerRadius, m_thickness / 2);
     painter.drawRoundedRect(bar, radius, radius);

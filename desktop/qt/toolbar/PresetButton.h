@@ -1,17 +1,14 @@
 #pragma once
 
+#include "desktop/qt/toolbar/PaintedButton.h"
 #include "toolbar/FloatingToolbarView.h"
-
-#include <QAbstractButton>
 
 namespace quillon::desktop {
 
 /// A bar as thick as the line that it chooses.
-class PresetButton : public QAbstractButton {
+class PresetButton : public PaintedButton {
 public:
     PresetButton(const LineWidthPreset& preset, QWidget& parent);
-
-    QSize sizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

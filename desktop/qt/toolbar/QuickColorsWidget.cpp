@@ -2,6 +2,7 @@
 
 #include "desktop/qt/Appearance.h"
 #include "desktop/qt/SymbolPicture.h"
+#include "desktop/qt/toolbar/PaintedButton.h"
 #include "desktop/qt/toolbar/PopupMenu.h"
 #include "desktop/qt/toolbar/Ring.h"
 #include "desktop/qt/toolbar/SwatchButton.h"
@@ -20,14 +21,10 @@ namespace {
 using View = ColorPickerView;
 
 /// The button that lies over the last colour.
-class AddColorButton : public QAbstractButton {
+class AddColorButton : public PaintedButton {
 public:
-    explicit AddColorButton(QWidget& parent)
-        : QAbstractButton(&parent) {
-        setAccessibleName(tr("Add the current colour"));
-        setAttribute(Qt::WA_Hover);
-        setFocusPolicy(Qt::TabFocus);
-    }
+    AddColorButton(QSize size, QWidget& parent)
+        : PaintedButton(size, tr("Add the current colour"), parent) {}
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
@@ -43,7 +40,7 @@ protected:
         painter.drawImage(center - QPointF(side, side) / 2,
                           symbolPicture(View::AddButton::icon, side, devicePixelRatioF(),
                                         toQColor(SystemColor::secondaryLabelColor, palette())));
-        if (underMouse() || FocusRing::isShown(*this)) {
+        if (isPointedAt()) {
             FocusRing::stroke(
                 painter, circle(center, View::AddButton::diameter + ColorSwatchView::ringMargin),
                 palette());
@@ -63,9 +60,8 @@ public:
         connect(swatch, &QAbstractButton::clicked, this, m_cell.action);
         setFocusProxy(swatch);
         if (m_cell.addButton) {
-            auto* add = new AddColorButton(*this);
             // The face is smaller; round it goes the ring of the focus.
-            add->setGeometry(rect());
+            auto* add = new AddColorButton(size(), *this);
             add->installEventFilter(this);
             // The swatch cannot be reached below it.
             swatch->setFocusPolicy(Qt::NoFocus);

@@ -10,21 +10,21 @@
 
 namespace quillon::desktop {
 
-SwatchButton::SwatchButton(const ColorSwatchView& face, QWidget& parent)
-    : QAbstractButton(&parent)
-    , m_face(face) {
-    setFixedSize(sizeHint());
-    setAttribute(Qt::WA_Hover);
-    setFocusPolicy(Qt::TabFocus);
-    setAccessibleName(QString::fromStdString(colorHex(face.color)));
-    setCheckable(face.isSelected);
-    setChecked(face.isSelected);
-}
+namespace {
 
-QSize SwatchButton::sizeHint() const {
-    const int side = qRound(m_face.ringDiameter() + ColorSwatchView::ringLineWidth) +
+QSize sizeOf(const ColorSwatchView& face) {
+    const int side = qRound(face.ringDiameter() + ColorSwatchView::ringLineWidth) +
                      2 * shadowReach(ColorSwatchView::ringShadow);
     return {side, side};
+}
+
+} // namespace
+
+SwatchButton::SwatchButton(const ColorSwatchView& face, QWidget& parent)
+    : PaintedButton(sizeOf(face), QString::fromStdString(colorHex(face.color)), parent)
+    , m_face(face) {
+    setCheckable(face.isSelected);
+    setChecked(face.isSelected);
 }
 
 void SwatchButton::paintEvent(QPaintEvent* /*event*/) {
@@ -39,7 +39,7 @@ void SwatchButton::paintEvent(QPaintEvent* /*event*/) {
                   QPen(toQColor(ColorSwatchView::ringColor), ColorSwatchView::ringLineWidth),
                   ColorSwatchView::ringShadow);
     }
-    if (underMouse() || FocusRing::isShown(*this)) {
+    if (isPointedAt()) {
         FocusRing::stroke(painter, circle(center, m_face.ringDiameter()), palette());
     }
 }

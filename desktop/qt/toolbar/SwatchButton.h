@@ -1,17 +1,14 @@
 #pragma once
 
+#include "desktop/qt/toolbar/PaintedButton.h"
 #include "toolbar/FloatingToolbarView.h"
-
-#include <QAbstractButton>
 
 namespace quillon::desktop {
 
 /// A round swatch that can be clicked. A translucent colour shows a chequered ground.
-class SwatchButton : public QAbstractButton {
+class SwatchButton : public PaintedButton {
 public:
     SwatchButton(const ColorSwatchView& face, QWidget& parent);
-
-    QSize sizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -35,12 +35,7 @@ TEST_F(Drawing, the_pen_leaves_its_line) {
 TEST_F(Drawing, the_line_is_seen_while_the_button_is_still_down) {
     prepareTool(DrawingTool::pen);
     startAnnotating();
-    input.moveTo({100, 100});
-    input.press();
-    for (int x = 105; x <= 200; x += 5) {
-        input.moveTo({x, 100});
-    }
-    EXPECT_TRUE(showsInk({150, 100}));
+    holdLineAt(100);
     EXPECT_TRUE(showsInk({195, 100}));
     input.release();
 }

@@ -57,12 +57,7 @@ TEST_F(Modes, annotation_switched_off_hides_the_whiteboard_and_keeps_its_mode) {
 TEST_F(Modes, annotation_switched_off_within_a_stroke_lets_the_next_click_through) {
     prepareTool(DrawingTool::pen);
     startAnnotating();
-    input.moveTo({100, 100});
-    input.press();
-    for (int x = 105; x <= 200; x += 5) {
-        input.moveTo({x, 100});
-    }
-    ASSERT_TRUE(showsInk({150, 100}));
+    holdLineAt(100);
     toggleAnnotation();
     ASSERT_TRUE(eventually([this] { return !takesPointer(); }));
     input.release();

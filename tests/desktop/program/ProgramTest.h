@@ -71,10 +71,16 @@ protected:
 
     /// Whether the pointer meets another window than the one below, where it stands now.
     bool takesPointer() {
+        const xcb_window_t window = windowUnderPointer();
+        return window != XCB_NONE && window != windowBefore;
+    }
+    /// The one on the root window, which is the frame of a program's own; `XCB_NONE` when there is
+    /// none.
+    xcb_window_t windowUnderPointer() {
         const XOwned<xcb_query_pointer_reply_t> pointer(xcb_query_pointer_reply(
             desktop.connection().get(),
             xcb_query_pointer(desktop.connection().get(), desktop.connection().root()), nullptr));
-        return pointer && pointer->child != XCB_NONE && pointer->child != childBefore;
+        return pointer ? pointer->child : XCB_NONE;
     }
 
     /// Whether a program holds the pointer as a whole, which the server tells to one who asks for
@@ -98,6 +104,15 @@ protected:
     void drawLineAt(int y) {
         input.drag({{100, y}, {300, y}});
         ASSERT_TRUE(showsInk({200, y}));
+    }
+    /// The same to 200, with the button held down.
+    void holdLineAt(int y) {
+        input.moveTo({100, y});
+        input.press();
+        for (int x = 105; x <= 200; x += 5) {
+            input.moveTo({x, y});
+        }
+        ASSERT_TRUE(showsInk({150, y}));
     }
     /// Starts the program, switches annotation on, and draws a red line with the pen.
     void startWithLine() {
@@ -135,12 +150,7 @@ protected:
     ProbeWindow below{desktop.display(), {0, 40, 900, 560}, kBackground};
     std::unique_ptr<Program> program;
     /// The window under the pointer before the program started.
-    xcb_window_t childBefore = [this] {
-        const XOwned<xcb_query_pointer_reply_t> pointer(xcb_query_pointer_reply(
-            desktop.connection().get(),
-            xcb_query_pointer(desktop.connection().get(), desktop.connection().root()), nullptr));
-        return pointer->child;
-    }();
+    xcb_window_t windowBefore = windowUnderPointer();
 };
 
 } // namespace quillon::test
