@@ -61,6 +61,41 @@ TEST_F(OverlayDamage, what_a_picture_brought_forward_is_still_owed_by_the_update
     EXPECT_TRUE(damage.intersects({100, 299, 1, 1}));
 }
 
+TEST_F(OverlayDamage, a_motion_of_the_pen_waits_for_no_repaint) {
+    annotate();
+    for (int stroke = 0; stroke < 500; ++stroke) {
+        drag({10, 10}, {50, 50});
+    }
+    state().undo();
+    update();
+    overlay.mouseDown({300, 300});
+    update();
+    host.graphics.drawn.clear();
+    overlay.mouseDragged({350, 350});
+    EXPECT_TRUE(update().intersects({325, 325, 1, 1}));
+    EXPECT_TRUE(host.graphics.drawn.empty());
+}
+
+TEST_F(OverlayDamage, a_repaint_takes_a_step_with_each_turn_and_asks_for_an_update_at_its_end) {
+    annotate();
+    for (int stroke = 0; stroke < 500; ++stroke) {
+        drag({10, 10}, {50, 50});
+    }
+    state().undo();
+    EXPECT_TRUE(update().isEmpty());
+    const int before = updateRequests;
+    int turns = 0;
+    while (updateRequests == before) {
+        host.graphics.drawn.clear();
+        host.mainQueue.turn();
+        ASSERT_FALSE(host.graphics.drawn.empty()) << "in turn " << turns;
+        ++turns;
+    }
+    EXPECT_GT(turns, 10);
+    EXPECT_TRUE(host.mainQueue.isIdle());
+    EXPECT_TRUE(update().intersects({29, 29, 2, 2}));
+}
+
 TEST_F(OverlayDamage, a_new_size_paints_everything) {
     overlay.layout({300, 200}, 2);
     EXPECT_EQ(update().bounds(), (CGRect{0, 0, 300, 200}));
