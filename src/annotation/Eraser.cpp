@@ -39,10 +39,12 @@ std::optional<std::vector<CodablePoint>> pointsLeft(const FinishedStroke& finish
         for (std::size_t index = first; index < past; ++index) {
             const CGPoint start = points[index].cgPoint();
             const CGPoint end = points[index + 1].cgPoint();
-            const bool isHit =
-                eraser.anyPointIn(rectBetween(start, end).outset(reach), [&](CGPoint point) {
-                    return distanceFromPointToSegment(point, start, end) < reach;
-                });
+            // A point that is told apart by four comparisons needs no distance.
+            const CGRect near = rectBetween(start, end).outset(reach + 1);
+            const bool isHit = eraser.anyPointIn(near, [&](CGPoint point) {
+                return near.contains(point) &&
+                       distanceFromPointToSegment(point, start, end) < reach;
+            });
             if (!isHit) {
                 left.push_back(points[index]);
             }
