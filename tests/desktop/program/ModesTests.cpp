@@ -147,10 +147,7 @@ TEST_F(WithoutCompositor, with_annotation_off_clicks_reach_below_also_through_th
 
 TEST_F(WithoutCompositor, text_can_be_typed) {
     startHoldingThePointer(DrawingTool::text);
-    input.click({300, 200});
-    ASSERT_TRUE(screen.waitForPixel({380, 200}, [](Rgb seen) { return seen.red > 200; }));
-    input.type("Hill");
-    input.tap("Return");
+    writeText({300, 200}, "Hill");
     EXPECT_TRUE(showsText({300, 200}));
     EXPECT_TRUE(showsBackground({380, 200}));
 }

@@ -120,6 +120,14 @@ protected:
         startAnnotating();
         drawLineAt(100);
     }
+    /// Opens a field with the text tool, types into it, and commits what was typed.
+    void writeText(Pixel place, std::string_view text) {
+        input.click(place);
+        ASSERT_TRUE(
+            screen.waitForPixel({place.x + 80, place.y}, [](Rgb seen) { return seen.red > 200; }));
+        input.type(text);
+        input.tap("Return");
+    }
 
     bool showsInk(Pixel place) { return screen.waitForColor(place, kInk); }
     bool showsBackground(Pixel place) { return screen.waitForColor(place, kBackground); }

@@ -179,10 +179,7 @@ TEST_F(SettingsOnScreen, text_can_be_typed_beside_the_window) {
     startAndOpen();
     toggleAnnotation();
     ASSERT_TRUE(isAnnotating());
-    input.click({60, 500});
-    ASSERT_TRUE(screen.waitForPixel({140, 500}, [](Rgb seen) { return seen.red > 200; }));
-    input.type("Hill");
-    input.tap("Return");
+    writeText({60, 500}, "Hill");
     EXPECT_TRUE(showsText({60, 500}));
 }
 
@@ -272,10 +269,7 @@ TEST_F(SettingsWithoutCompositor, text_can_be_typed_beside_the_window) {
     startAndOpen();
     toggleAnnotation();
     ASSERT_TRUE(eventually([this] { return isPointerHeld(); }));
-    input.click({60, 500});
-    ASSERT_TRUE(screen.waitForPixel({140, 500}, [](Rgb seen) { return seen.red > 200; }));
-    input.type("Hill");
-    input.tap("Return");
+    writeText({60, 500}, "Hill");
     EXPECT_TRUE(showsText({60, 500}));
 }
 
