@@ -36,6 +36,8 @@ protected:
         input.click(*item, button);
         menuColumn = item->x + 60;
         ASSERT_TRUE(screen.waitForPixel({menuColumn, 60}, isPaper));
+        // Once it holds the pointer, it has the keyboard as well.
+        ASSERT_TRUE(eventually([this] { return isPointerHeld(); }));
     }
     bool isMenuClosed() {
         return screen.waitForPixel({menuColumn, 60}, [](Rgb seen) { return !isPaper(seen); });
