@@ -4,7 +4,6 @@
 #include "model/NotificationNames.h"
 #include "platform/Host.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace quillon {
@@ -13,7 +12,6 @@ namespace {
 
 constexpr double kWhiteboardOpacity = 0.9;
 constexpr double kWhiteboardFade = 0.25;
-constexpr double kEraseFade = 0.5;
 
 /// Where a toolbar that was never placed stands: this far from the right and from the top.
 constexpr CGFloat kToolbarFromRight = 150;
@@ -168,7 +166,8 @@ Damage OverlayContainerView::takeDamage() {
         m_whiteboardOpacity = opacity;
         damage.add(bounds());
     }
-    damage.add(m_finishedLayer.update(m_drawingState.strokes, fadingStrokes(now)));
+    damage.add(
+        m_finishedLayer.update(m_drawingState.strokes, m_fades.at(now, m_drawingState.strokes)));
     const Damage live = bringLiveLayerUpToDate();
     if (live.isEmpty()) {
         // What takes little is done with its change. A motion of the pen waits for nothing.
@@ -300,36 +299,14 @@ void OverlayContainerView::autoErase(const UUID& id) {
     const double now = Host::current().mainQueue().now();
     for (std::size_t index = 0; index < strokes.size(); ++index) {
         if (strokes[index].id() == id) {
-            const auto place =
-                std::ranges::upper_bound(m_fades, strokes.ref(index)->order(), {},
-                                         [](const Fade& fade) { return fade.stroke->order(); });
-            m_fades.insert(place, {strokes.ref(index), now});
+            m_fades.add(strokes.ref(index), now);
         }
     }
     m_drawingState.removeStroke(id);
 }
 
-FadingStrokes OverlayContainerView::fadingStrokes(double now) {
-    if (m_fades.empty()) {
-        return {};
-    }
-    const StrokeList& strokes = m_drawingState.strokes;
-    std::erase_if(m_fades, [&](const Fade& fade) {
-        // An undo may have brought the stroke back in the meantime.
-        const FinishedStroke* inItsPlace = strokes.withOrder(fade.stroke->order());
-        const bool isBack = inItsPlace && inItsPlace->stroke().id() == fade.stroke->stroke().id();
-        return isBack || now - fade.start >= kEraseFade;
-    });
-    FadingStrokes fading;
-    for (const auto& fade : m_fades) {
-        const double progress = TimingCurve::easeOut.progressAt((now - fade.start) / kEraseFade);
-        fading.emplace_back(fade.stroke, 1 - progress);
-    }
-    return fading;
-}
-
 void OverlayContainerView::keepAnimating(double now) {
-    const bool isMoving = !m_fades.empty() || m_whiteboard.isRunning(now);
+    const bool isMoving = !m_fades.isEmpty() || m_whiteboard.isRunning(now);
     if (isMoving) {
         m_ticker.request([this] { setNeedsUpdate(); });
     }

@@ -5,6 +5,7 @@
 #include "annotation/FadeTransition.h"
 #include "annotation/FinishedStrokesLayer.h"
 #include "annotation/LiveStrokeLayer.h"
+#include "annotation/StrokeFades.h"
 #include "foundation/Cancellable.h"
 #include "foundation/DragGesture.h"
 #include "foundation/Lifetime.h"
@@ -62,12 +63,6 @@ public:
     void controlsMouseUp(CGPoint location) override;
 
 private:
-    /// A stroke that auto-erase has removed and that is still to be seen for a moment.
-    struct Fade {
-        StrokeRef stroke;
-        double start = 0;
-    };
-
     DrawingCanvasView::Connections canvasConnections();
     void observeNotifications();
     /// The canvas that takes the pointer, if any does.
@@ -83,7 +78,6 @@ private:
 
     void startAutoEraseTimer(const DrawingStroke& stroke);
     void autoErase(const UUID& id);
-    FadingStrokes fadingStrokes(double now);
     /// Makes the live layer show the stroke in progress as it now is.
     Damage bringLiveLayerUpToDate();
     /// Takes the steps of a repaint one by one, with the input that has arrived between them.
@@ -109,7 +103,7 @@ private:
     bool m_isRepaintPending = false;
     LiveStrokeLayer m_liveLayer;
     bool m_isLiveLayerBehind = false;
-    std::vector<Fade> m_fades;
+    StrokeFades m_fades;
     FadeTransition m_whiteboard;
     double m_whiteboardOpacity = 0;
     FrameTicker m_ticker;
