@@ -100,18 +100,16 @@ void WindowPlacement::place(Stacking stacking) {
     }
     m_isPlaced = true;
     const QRect frame = pixels();
-    const std::array values{static_cast<std::uint32_t>(frame.x()),
-                            static_cast<std::uint32_t>(frame.y()),
-                            static_cast<std::uint32_t>(frame.width()),
-                            static_cast<std::uint32_t>(frame.height()),
-                            std::uint32_t{XCB_STACK_MODE_ABOVE}};
+    const std::array values{
+        static_cast<std::uint32_t>(frame.x()), static_cast<std::uint32_t>(frame.y()),
+        static_cast<std::uint32_t>(frame.width()), static_cast<std::uint32_t>(frame.height()),
+        std::uint32_t{XCB_STACK_MODE_ABOVE}};
     const int stackingBit = stacking == Stacking::onTop ? XCB_CONFIG_WINDOW_STACK_MODE : 0;
-    xcb_configure_window(
-        m_connection, static_cast<xcb_window_t>(m_widget.winId()),
-        static_cast<std::uint16_t>(XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y |
-                                   XCB_CONFIG_WINDOW_WIDTH | XCB_CONFIG_WINDOW_HEIGHT |
-                                   stackingBit),
-        values.data());
+    xcb_configure_window(m_connection, static_cast<xcb_window_t>(m_widget.winId()),
+                         static_cast<std::uint16_t>(XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y |
+                                                    XCB_CONFIG_WINDOW_WIDTH |
+                                                    XCB_CONFIG_WINDOW_HEIGHT | stackingBit),
+                         values.data());
     xcb_flush(m_connection);
 }
 
