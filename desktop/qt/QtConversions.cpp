@@ -40,10 +40,10 @@ QPainterPath toQPainterPath(const Path& path) {
     return result;
 }
 
-QPen toQPen(const Color& color, const StrokeStyle& style) {
+QPen toQPen(const Color& color, const StrokeStyle& style, CGFloat scale) {
     // A line no wider than a pixel goes another way through the toolkit, on which a part of it that
     // is painted by itself does not get the pixels that it has in the whole.
-    constexpr CGFloat smallestWidth = 1.001;
+    const CGFloat smallestWidth = 1.001 / scale;
     return QPen(toQColor(color), std::max(style.lineWidth, smallestWidth), Qt::SolidLine,
                 style.lineCap == LineCap::round ? Qt::RoundCap : Qt::FlatCap,
                 style.lineJoin == LineJoin::round ? Qt::RoundJoin : Qt::MiterJoin);

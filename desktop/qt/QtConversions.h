@@ -19,7 +19,8 @@ namespace quillon::desktop {
 /// Components outside of 0 to 1 are clamped, since nothing brighter can be painted.
 QColor toQColor(const Color& color);
 QPainterPath toQPainterPath(const Path& path);
-QPen toQPen(const Color& color, const StrokeStyle& style);
+/// For a painter with so many device pixels to a point. No line is thinner than a pixel.
+QPen toQPen(const Color& color, const StrokeStyle& style, CGFloat scale);
 
 inline QPointF toQPointF(CGPoint point) {
     return {point.x, point.y};

@@ -40,12 +40,12 @@ void QtGraphicsContext::fillEvenOdd(const Path& path, const Color& color) {
 }
 
 void QtGraphicsContext::stroke(const Path& path, const Color& color, const StrokeStyle& style) {
-    m_painter.strokePath(toQPainterPath(path), toQPen(color, style));
+    m_painter.strokePath(toQPainterPath(path), toQPen(color, style, m_scale));
 }
 
 void QtGraphicsContext::strokeWithShadow(const Path& path, const Color& color,
                                          const StrokeStyle& style, const Shadow& shadow) {
-    const QPen pen = toQPen(color, style);
+    const QPen pen = toQPen(color, style, m_scale);
     QPainterPathStroker stroker(pen);
     const QPainterPath outline = stroker.createStroke(toQPainterPath(path));
     drawShadow(outline.translated(shadow.offset.width, shadow.offset.height), shadow);

@@ -49,6 +49,19 @@ void expectColor(const QImage& picture, const QRect& place, QRgb color) {
 
 } // namespace
 
+TEST(QtHardPixels, a_line_of_half_a_point_is_one_pixel_wide_where_two_make_a_point) {
+    const QImage picture = painted(2, [](GraphicsContext& context) {
+        Path line;
+        line.move({2, 10.25});
+        line.addLine({18, 10.25});
+        context.stroke(line, Color(1, 0, 0), {.lineWidth = 0.5});
+    });
+    constexpr int faint = 8;
+    EXPECT_LT(qAlpha(picture.pixel(20, 19)), faint);
+    EXPECT_GT(qAlpha(picture.pixel(20, 20)), 255 - faint);
+    EXPECT_LT(qAlpha(picture.pixel(20, 21)), faint);
+}
+
 TEST(QtHardPixels, each_pixel_becomes_a_square_of_one_colour) {
     const QImage picture = painted(1, [](GraphicsContext& context) {
         context.draw(fourPixels(), {2, 2, 16, 16});
