@@ -120,17 +120,6 @@ private:
     QImage m_screen;
 };
 
-/// The number of pixels in which two pictures differ.
-int differingPixels(const QImage& a, const QImage& b) {
-    int count = 0;
-    for (int y = 0; y < a.height(); ++y) {
-        for (int x = 0; x < a.width(); ++x) {
-            count += a.pixel(x, y) != b.pixel(x, y) ? 1 : 0;
-        }
-    }
-    return count;
-}
-
 class PaintedDamage : public testing::TestWithParam<double> {};
 
 TEST_P(PaintedDamage, after_any_sequence_the_screen_is_pixel_for_pixel_the_plain_walk) {

@@ -36,4 +36,19 @@ void paintAnew(QImage& picture, const CGRect& rect, CGFloat scale, Body&& body) 
     body(context, part);
 }
 
+/// The number of pixels in which two pictures differ, in that part of both.
+inline int differingPixels(const QImage& a, const QImage& b, const QRect& part) {
+    int count = 0;
+    for (int y = part.top(); y <= part.bottom(); ++y) {
+        for (int x = part.left(); x <= part.right(); ++x) {
+            count += a.pixel(x, y) != b.pixel(x, y) ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+inline int differingPixels(const QImage& a, const QImage& b) {
+    return differingPixels(a, b, a.rect());
+}
+
 } // namespace quillon::desktop
