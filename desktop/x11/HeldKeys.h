@@ -15,16 +15,12 @@ namespace quillon::desktop {
 /// - a release and a press at each repeat, both with the same time stamp.
 ///
 /// Some releases are never heard, as when another window has the keyboard by then. So a press that
-/// comes later than any repeat could is a press of its own, though no release came before it. It is
-/// one as well when it comes sooner, after a press whose release was likely to be missed. And a
+/// comes later than any repeat could is a press of its own, though no release came before it. And a
 /// program may strike a key many times within a millisecond, so one that comes sooner than any
 /// repeat could is a press of its own too.
 class HeldKeys {
 public:
     enum class Press { first, repeat };
-
-    /// Of the key that is pressed: it is missed when the keyboard goes elsewhere meanwhile.
-    enum class Release { heard, perhapsMissed };
 
     /// When the keyboard repeats a held key, in milliseconds.
     struct RepeatTimes {
@@ -38,7 +34,7 @@ public:
 
     void setRepeatTimes(const RepeatTimes& times) { m_repeatTimes = times; }
 
-    Press pressed(xcb_keycode_t keyCode, xcb_timestamp_t time, Release release = Release::heard);
+    Press pressed(xcb_keycode_t keyCode, xcb_timestamp_t time);
     void released(xcb_keycode_t keyCode, xcb_timestamp_t time);
 
 private:
@@ -47,12 +43,7 @@ private:
         Seen seen = Seen::never;
         xcb_timestamp_t time = 0;
         xcb_timestamp_t pressTime = 0;
-        Release release = Release::heard;
-        Press press = Press::first;
     };
-
-    /// What a press is that comes after `last`.
-    Press pressAfter(const Key& last, xcb_timestamp_t time) const;
 
     RepeatTimes m_repeatTimes;
     std::array<Key, 256> m_keys;

@@ -26,7 +26,8 @@ public:
 X11HotKeys::X11HotKeys(xcb_connection_t* connection, xcb_window_t root)
     : m_connection(connection)
     , m_root(root)
-    , m_extensionEvent(keyboardExtensionEvent(connection)) {
+    , m_extensionEvent(keyboardExtensionEvent(connection))
+    , m_rawReleases(connection, root) {
     // Asked for before the first reading, so that no change falls in between.
     listenToKeyboard(connection);
     readKeyboard();
@@ -91,6 +92,10 @@ bool X11HotKeys::handleEvent(const xcb_generic_event_t& event) {
     if (wasSentByAClient(event)) {
         return false;
     }
+    if (const auto release = m_rawReleases.take(event)) {
+        m_heldKeys.released(release->keyCode, release->time);
+        return true;
+    }
     switch (eventType(event)) {
     case XCB_KEY_PRESS:
         return handleKeyPress(eventAs<xcb_key_press_event_t>(event));
@@ -107,11 +112,7 @@ bool X11HotKeys::handleEvent(const xcb_generic_event_t& event) {
 bool X11HotKeys::handleKeyPress(const xcb_key_press_event_t& event) {
     // The keys of the program's own windows count too: a shortcut may be registered while the keys
     // that were pressed to record it are still down.
-    // One that comes to a window may end the grab or the window that brought it, as the shortcut
-    // does that takes away an open menu.
-    const auto release =
-        event.event == m_root ? HeldKeys::Release::heard : HeldKeys::Release::perhapsMissed;
-    const HeldKeys::Press press = m_heldKeys.pressed(event.detail, event.time, release);
+    const HeldKeys::Press press = m_heldKeys.pressed(event.detail, event.time);
     const auto modifiers =
         static_cast<std::uint16_t>(event.state & modifierBits & ~m_keyboard.modifiers.locks());
     const HotKey* hotKey = holderOf({event.detail, modifiers});
@@ -119,6 +120,10 @@ bool X11HotKeys::handleKeyPress(const xcb_key_press_event_t& event) {
     // other grab, and sends even the key of a hot key to the window that grabbed.
     if (event.event != m_root && !hotKey) {
         return false;
+    }
+    if (event.event != m_root) {
+        // It may take away the menu, and with it the grab that would bring the release.
+        m_rawReleases.await(event.detail);
     }
     if (press == HeldKeys::Press::first && hotKey) {
         dispatch(hotKey->id);

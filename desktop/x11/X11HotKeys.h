@@ -3,6 +3,7 @@
 #include "desktop/x11/HeldKeys.h"
 #include "desktop/x11/KeyGrab.h"
 #include "desktop/x11/KeyboardMap.h"
+#include "desktop/x11/RawKeyReleases.h"
 #include "platform/HotKeys.h"
 
 #include <cstdint>
@@ -19,6 +20,10 @@ namespace quillon::desktop {
 /// 2. the program's event loop hands each event to `handleEvent`;
 /// 3. a repeat of a held key is swallowed, a first press is looked up among the registrations;
 /// 4. the installed handlers are called at once.
+///
+/// While a menu of the program is open, the keys come to its window instead, and a press that takes
+/// the menu away takes the key's release with it. It is heard all the same (`RawKeyReleases`), so
+/// that the next press is not taken for a repeat.
 ///
 /// The way of a new keyboard or layout: the key codes and modifiers are asked for anew, and each
 /// registration whose combination came to lie elsewhere is grabbed there. One that cannot be
@@ -80,6 +85,7 @@ private:
     /// new.
     std::uint32_t m_keyboardReadAt = 0;
     HeldKeys m_heldKeys;
+    RawKeyReleases m_rawReleases;
 
     std::map<EventHotKeyRef, HotKey> m_hotKeys;
     std::map<EventHandlerRef, Handler> m_handlers;

@@ -77,8 +77,8 @@ void InputDriver::drag(const std::vector<Pixel>& places, int stepLength) {
     release();
 }
 
-void InputDriver::keyDown(std::string_view key) {
-    fake(XCB_KEY_PRESS, keyCode(key));
+void InputDriver::keyDown(std::string_view key, std::uint32_t after) {
+    fake(XCB_KEY_PRESS, keyCode(key), {}, after);
 }
 
 void InputDriver::keyUp(std::string_view key) {
@@ -126,8 +126,8 @@ xcb_keycode_t InputDriver::keyCode(std::string_view key) const {
     throw std::runtime_error("the keyboard has no key " + std::string(key));
 }
 
-void InputDriver::fake(std::uint8_t type, std::uint8_t detail, Pixel place) {
-    xcb_test_fake_input(m_connection.get(), type, detail, XCB_CURRENT_TIME, m_connection.root(),
+void InputDriver::fake(std::uint8_t type, std::uint8_t detail, Pixel place, std::uint32_t after) {
+    xcb_test_fake_input(m_connection.get(), type, detail, after, m_connection.root(),
                         static_cast<std::int16_t>(place.x), static_cast<std::int16_t>(place.y), 0);
     m_connection.synchronise();
 }

@@ -2,6 +2,7 @@
 
 #include "desktop/support/XConnection.h"
 
+#include <cstdint>
 #include <string_view>
 #include <vector>
 
@@ -29,7 +30,8 @@ public:
     /// last.
     void drag(const std::vector<Pixel>& places, int stepLength = 6);
 
-    void keyDown(std::string_view key);
+    /// The server lets so many milliseconds go by first.
+    void keyDown(std::string_view key, std::uint32_t after = 0);
     void keyUp(std::string_view key);
     void tap(std::string_view key);
     /// Holds all keys but the last, taps the last, and lets go: {"Super_L", "Shift_L", "s"}.
@@ -40,7 +42,7 @@ public:
     xcb_keycode_t keyCode(std::string_view key) const;
 
 private:
-    void fake(std::uint8_t type, std::uint8_t detail, Pixel place = {});
+    void fake(std::uint8_t type, std::uint8_t detail, Pixel place = {}, std::uint32_t after = 0);
 
     XConnection& m_connection;
     Pixel m_place;

@@ -67,19 +67,6 @@ TEST_F(HeldKeysTest, a_press_later_than_any_repeat_could_come_is_a_press_of_its_
     EXPECT_EQ(keys.pressed(key, 1000 + 2 * times.delay), first);
 }
 
-TEST_F(HeldKeysTest, a_press_sooner_than_a_repeat_could_come_tells_of_a_release_that_was_missed) {
-    EXPECT_EQ(keys.pressed(key, 1000, HeldKeys::Release::perhapsMissed), first);
-    EXPECT_EQ(keys.pressed(key, 1500), first);
-    EXPECT_EQ(keys.pressed(key, 1600), repeat);
-}
-
-TEST_F(HeldKeysTest, a_key_held_while_its_release_could_be_missed_repeats) {
-    keys.pressed(key, 1000, HeldKeys::Release::perhapsMissed);
-    EXPECT_EQ(keys.pressed(key, 1600, HeldKeys::Release::perhapsMissed), repeat);
-    EXPECT_EQ(keys.pressed(key, 1640, HeldKeys::Release::perhapsMissed), repeat);
-    EXPECT_EQ(keys.pressed(key, 1650), first);
-}
-
 TEST_F(HeldKeysTest, keys_that_a_program_strikes_within_a_millisecond_are_presses_of_their_own) {
     EXPECT_EQ(keys.pressed(key, 1000), first);
     keys.released(key, 1000);
