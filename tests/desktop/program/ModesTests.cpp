@@ -135,6 +135,32 @@ TEST_F(WithoutCompositor, the_screen_stays_to_be_seen_round_the_strokes) {
     EXPECT_TRUE(showsBackground({200, 100}));
 }
 
+TEST_F(WithoutCompositor, a_pointer_that_another_program_holds_is_taken_once_it_lets_go) {
+    prepareTool(DrawingTool::pen);
+    start();
+    xcb_connection_t* other = desktop.connection().get();
+    const XOwned<xcb_grab_pointer_reply_t> grab(xcb_grab_pointer_reply(
+        other,
+        xcb_grab_pointer(other, 0, desktop.connection().root(), 0, XCB_GRAB_MODE_ASYNC,
+                         XCB_GRAB_MODE_ASYNC, XCB_NONE, XCB_NONE, XCB_CURRENT_TIME),
+        nullptr));
+    ASSERT_EQ(grab->status, XCB_GRAB_STATUS_SUCCESS);
+    const auto shownBefore = desktop.connection().shownWindows().size();
+    toggleAnnotation();
+    ASSERT_TRUE(
+        eventually([&] { return desktop.connection().shownWindows().size() > shownBefore; }));
+    input.drag({{100, 100}, {300, 100}});
+    EXPECT_TRUE(
+        stays([this] { return !hasInkInRow(100, 100, 300); }, std::chrono::milliseconds(150)))
+        << "what the other program holds is its own";
+
+    xcb_ungrab_pointer(other, XCB_CURRENT_TIME);
+    desktop.connection().synchronise();
+    ASSERT_TRUE(eventually([this] { return isPointerHeld(); }));
+    drawLineAt(100);
+    EXPECT_EQ(below.pressCount(), 0);
+}
+
 TEST_F(WithoutCompositor, with_annotation_off_clicks_reach_below_also_through_the_strokes) {
     startHoldingThePointer();
     drawLineAt(100);
