@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <variant>
@@ -18,6 +20,25 @@ VirtualDesktop::Options without(const std::string& extension) {
     options.withoutExtensions = {extension};
     return options;
 }
+
+/// A capture at rest, by a program that shows a picture of its own below the window.
+struct OwnPictureTest : CaptureTest {
+    explicit OwnPictureTest(const Canvas::Frame& place = {400, 300, 200, 100})
+        : picture(desktop.display(), place) {
+        program.ownPicture = {400, 300, 200, 100};
+        stream = program.start(receiver);
+        program.queue.advance(1);
+    }
+
+    /// Fills a part of the window, of which the program hears.
+    void changeWindow(std::uint32_t color) {
+        canvas.fill({0, 0, 10, 10}, color);
+        program.catchUp(*receiver);
+    }
+
+    Canvas picture;
+    std::shared_ptr<SCStream> stream;
+};
 
 /// A crop of a picture of the test pattern, against the pattern.
 void expectPattern(const CaptureTest& test) {
@@ -160,21 +181,16 @@ TEST(ScreenCapture, a_change_before_the_next_frame_is_due_is_shown_by_that_frame
 }
 
 TEST(ScreenCapture, the_picture_that_the_program_makes_of_a_frame_takes_no_slot_of_a_film) {
-    CaptureTest test;
-    test.program.ownPicture = {400, 300, 200, 100};
-    Canvas picture(test.desktop.display(), {400, 300, 200, 100});
-    const auto stream = test.program.start(test.receiver);
-    test.program.queue.advance(1);
+    OwnPictureTest test;
     std::vector<std::uint32_t> shown;
     test.receiver->onFrame = [&](SCStream&) { shown.push_back(test.pixelAt(105, 55)); };
 
     std::vector<std::uint32_t> film;
     for (std::uint32_t frame = 1; frame <= 60; ++frame) {
         film.push_back(0xFF000000 | frame);
-        test.canvas.fill({0, 0, 10, 10}, frame);
-        test.program.catchUp(*test.receiver);
+        test.changeWindow(frame);
         test.program.queue.advance(0.003);
-        picture.fill({0, 0, 200, 100}, frame);
+        test.picture.fill({0, 0, 200, 100}, frame);
         test.program.catchUp(*test.receiver);
         // The next change comes now a little before its slot, now a little after.
         test.program.queue.advance((frame % 2 == 0 ? 0.9 : 1.1) / 60 - 0.003);
@@ -184,16 +200,11 @@ TEST(ScreenCapture, the_picture_that_the_program_makes_of_a_frame_takes_no_slot_
 }
 
 TEST(ScreenCapture, the_programs_own_picture_is_shown_half_a_slot_later_and_then_there_is_rest) {
-    CaptureTest test;
-    test.program.ownPicture = {400, 300, 200, 100};
-    Canvas picture(test.desktop.display(), {400, 300, 200, 100});
-    const auto stream = test.program.start(test.receiver);
-    test.program.queue.advance(1);
-    test.canvas.fill({0, 0, 10, 10}, 0xFF0000);
-    test.program.catchUp(*test.receiver);
+    OwnPictureTest test;
+    test.changeWindow(0xFF0000);
     const int before = test.receiver->frames;
 
-    picture.fill({0, 0, 200, 100}, 0x00FF00);
+    test.picture.fill({0, 0, 200, 100}, 0x00FF00);
     test.program.catchUp(*test.receiver);
     test.program.queue.advance(1.4 / 60);
     EXPECT_EQ(test.receiver->frames, before);
@@ -208,16 +219,11 @@ TEST(ScreenCapture, the_programs_own_picture_is_shown_half_a_slot_later_and_then
 }
 
 TEST(ScreenCapture, a_change_beside_the_programs_own_picture_is_in_haste) {
-    CaptureTest test;
-    test.program.ownPicture = {400, 300, 200, 100};
-    Canvas picture(test.desktop.display(), {390, 300, 220, 100});
-    const auto stream = test.program.start(test.receiver);
-    test.program.queue.advance(1);
-    test.canvas.fill({0, 0, 10, 10}, 0xFF0000);
-    test.program.catchUp(*test.receiver);
+    OwnPictureTest test({390, 300, 220, 100});
+    test.changeWindow(0xFF0000);
     const int before = test.receiver->frames;
 
-    picture.fill({0, 0, 220, 100}, 0x00FF00);
+    test.picture.fill({0, 0, 220, 100}, 0x00FF00);
     test.program.catchUp(*test.receiver);
     test.program.queue.advance(1.0 / 60);
 
