@@ -4,6 +4,7 @@
 #include "desktop/qt/QtConversions.h"
 #include "desktop/qt/QtGraphicsContext.h"
 #include "desktop/qt/TextFieldWidget.h"
+#include "desktop/x11/PointerSelection.h"
 #include "desktop/x11/XcbHandles.h"
 
 #include <QBackingStore>
@@ -43,7 +44,8 @@ int pointsOfWholePixels(CGFloat scale) {
 } // namespace
 
 ContentWidget::ContentWidget(xcb_connection_t* connection, std::function<void()> onPress)
-    : m_directDrag(*this, inputExtension(connection), [this](QPointF place) { dragTo(place); })
+    : m_connection(connection)
+    , m_directDrag(*this, inputExtension(connection), [this](QPointF place) { dragTo(place); })
     , m_directPainting(
           *this, connection,
           [this](QPainter& painter, const QRect& rect) { paintContent(painter, rect); })
@@ -84,6 +86,7 @@ bool ContentWidget::event(QEvent* event) {
     }
     if (event->type() == QEvent::WinIdChange && windowHandle()) {
         windowHandle()->installEventFilter(this);
+        leaveOutSingleDevices(m_connection, static_cast<xcb_window_t>(internalWinId()));
     }
     // The scale is known for sure only on the screen where the window comes to stand.
     if (event->type() == QEvent::Show || event->type() == QEvent::ScreenChangeInternal) {

@@ -99,6 +99,7 @@ private:
     void paintOutlined(QPainter& painter, const QRect& rect);
     void tellOutline();
 
+    xcb_connection_t* m_connection;
     DirectDrag m_directDrag;
     DirectPainting m_directPainting;
     StampedContent m_stamped;
