@@ -13,14 +13,13 @@ namespace {
 constexpr double kWhiteboardOpacity = 0.9;
 constexpr double kWhiteboardFade = 0.25;
 
-/// Where a toolbar that was never placed stands: this far from the right and from the top.
-constexpr CGFloat kToolbarFromRight = 150;
-constexpr CGFloat kToolbarFromTop = 50;
-
 } // namespace
 
 OverlayContainerView::OverlayContainerView(AppSettings& appSettings)
     : m_appSettings(appSettings)
+    , m_toolbar(
+          m_appSettings, m_drawingState, [this] { clearAllAnnotations(); },
+          [this] { setNeedsUpdate(); })
     , m_lowerCanvas(canvasConnections())
     , m_finishedLayer(Host::current().graphics())
     , m_liveLayer(Host::current().graphics())
@@ -28,8 +27,8 @@ OverlayContainerView::OverlayContainerView(AppSettings& appSettings)
                    appSettings.isAnnotationEnabled && appSettings.isWhiteboardMode) {
     m_subscriptions.push_back(m_appSettings.objectWillChange.sink([this] {
         setNeedsUpdate();
-        if (m_toolbar) {
-            m_toolbar->objectWillChange.send();
+        if (toolbar()) {
+            toolbar()->objectWillChange.send();
         }
     }));
     m_subscriptions.push_back(m_drawingState.objectWillChange.sink([this] {
@@ -146,7 +145,7 @@ void OverlayContainerView::bringStackUpToDate() {
     }
     m_whiteboard.setVisible(hasUpperCanvas, Host::current().mainQueue().now());
 
-    bringToolbarUpToDate();
+    m_toolbar.bringUpToDate(m_size);
     bringCanvasesUpToDate();
 }
 
@@ -225,63 +224,22 @@ std::optional<TextField> OverlayContainerView::textField() {
     return m_lowerCanvas.textField();
 }
 
-// The toolbar and its place.
+// The toolbar.
 
 std::optional<PlacedControls> OverlayContainerView::placedControls() {
-    return m_toolbar ? std::optional(PlacedControls{m_toolbar, m_toolbarPosition}) : std::nullopt;
-}
-
-void OverlayContainerView::bringToolbarUpToDate() {
-    if (!m_appSettings.isAnnotationEnabled || !m_appSettings.showFloatingToolbar) {
-        m_toolbar.reset();
-    } else if (m_toolbar) {
-        m_toolbar->setHistory(m_drawingState.canUndo(), m_drawingState.canRedo());
-    } else {
-        m_toolbar = makeToolbar();
-        placeToolbar();
-    }
-}
-
-std::shared_ptr<FloatingToolbarView> OverlayContainerView::makeToolbar() {
-    return std::make_shared<FloatingToolbarView>(
-        m_appSettings.selectedTool.binding(), m_appSettings.selectedColor.binding(),
-        m_appSettings.lineWidth.binding(), m_appSettings.quickColors.binding(),
-        m_appSettings.isWhiteboardMode.binding(), [this] { clearAllAnnotations(); },
-        [this] { m_drawingState.undo(); }, [this] { m_drawingState.redo(); },
-        m_drawingState.canUndo(), m_drawingState.canRedo());
-}
-
-void OverlayContainerView::placeToolbar() {
-    const ToolbarPosition saved = m_appSettings.toolbarPosition;
-    m_toolbarPosition = {saved.x, saved.y};
-    if (saved == ToolbarPosition::defaultPosition) {
-        m_toolbarPosition = {m_size.width - kToolbarFromRight, kToolbarFromTop};
-    }
+    return m_toolbar.placedControls();
 }
 
 void OverlayContainerView::controlsMouseDown(CGPoint location) {
-    if (const auto drag = m_toolbarGesture.pressed(location)) {
-        toolbarDragChanged(*drag);
-    }
+    m_toolbar.mouseDown(location);
 }
 
 void OverlayContainerView::controlsMouseDragged(CGPoint location) {
-    if (const auto drag = m_toolbarGesture.moved(location)) {
-        toolbarDragChanged(*drag);
-    }
+    m_toolbar.mouseDragged(location);
 }
 
 void OverlayContainerView::controlsMouseUp(CGPoint location) {
-    if (m_toolbarGesture.released(location)) {
-        m_isDraggingToolbar = false;
-        m_appSettings.toolbarPosition = ToolbarPosition{m_toolbarPosition.x, m_toolbarPosition.y};
-    }
-}
-
-void OverlayContainerView::toolbarDragChanged(const DragValue& drag) {
-    m_isDraggingToolbar = true;
-    m_toolbarPosition = drag.location;
-    setNeedsUpdate();
+    m_toolbar.mouseUp(location);
 }
 
 // Auto-erase.

@@ -6,13 +6,12 @@
 #include "annotation/FinishedStrokesLayer.h"
 #include "annotation/LiveStrokeLayer.h"
 #include "annotation/StrokeFades.h"
+#include "annotation/ToolbarPlace.h"
 #include "foundation/Cancellable.h"
-#include "foundation/DragGesture.h"
 #include "foundation/Lifetime.h"
 #include "model/AppSettings.h"
 #include "platform/ContentView.h"
 #include "platform/FrameTicker.h"
-#include "toolbar/FloatingToolbarView.h"
 
 #include <memory>
 #include <optional>
@@ -43,10 +42,10 @@ public:
     int textEditorResetID() const { return m_textEditorResetID; }
 
     /// The floating toolbar, while it is shown.
-    const std::shared_ptr<FloatingToolbarView>& toolbar() const { return m_toolbar; }
-    /// The toolbar's centre, in view coordinates. Nothing keeps it inside the view.
-    CGPoint toolbarPosition() const { return m_toolbarPosition; }
-    bool isDraggingToolbar() const { return m_isDraggingToolbar; }
+    const std::shared_ptr<FloatingToolbarView>& toolbar() const { return m_toolbar.toolbar(); }
+    /// The toolbar's centre, in view coordinates.
+    CGPoint toolbarPosition() const { return m_toolbar.position(); }
+    bool isDraggingToolbar() const { return m_toolbar.isBeingDragged(); }
     void clearAllAnnotations();
 
     void layout(CGSize size, CGFloat scale) override;
@@ -57,7 +56,7 @@ public:
     void paint(GraphicsContext& context, const CGRect& rect) override;
     std::optional<TextField> textField() override;
     std::optional<PlacedControls> placedControls() override;
-    /// A drag of the toolbar by its body. Its centre jumps to the pointer.
+    /// A drag of the toolbar by its body.
     void controlsMouseDown(CGPoint location) override;
     void controlsMouseDragged(CGPoint location) override;
     void controlsMouseUp(CGPoint location) override;
@@ -71,10 +70,6 @@ private:
     void bringCanvasesUpToDate();
     /// Lets the views come and go as the settings say.
     void bringStackUpToDate();
-    void bringToolbarUpToDate();
-    std::shared_ptr<FloatingToolbarView> makeToolbar();
-    void placeToolbar();
-    void toolbarDragChanged(const DragValue& drag);
 
     void startAutoEraseTimer(const DrawingStroke& stroke);
     void autoErase(const UUID& id);
@@ -88,13 +83,10 @@ private:
 
     AppSettings& m_appSettings;
     DrawingState m_drawingState;
-    CGPoint m_toolbarPosition;
-    bool m_isDraggingToolbar = false;
     int m_textEditorResetID = 0;
 
     CGSize m_size;
-    std::shared_ptr<FloatingToolbarView> m_toolbar;
-    DragGesture m_toolbarGesture;
+    ToolbarPlace m_toolbar;
     DrawingCanvasView m_lowerCanvas;
     std::unique_ptr<DrawingCanvasView> m_upperCanvas;
     /// The canvas in which the present drag began.
