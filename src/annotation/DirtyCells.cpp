@@ -84,12 +84,35 @@ bool DirtyCells::cover(const CGRect& rect) const {
 }
 
 std::vector<CGRect> DirtyCells::rects() const {
+    return rectsIn({0, 0, m_columns, m_rows});
+}
+
+std::vector<CGRect> DirtyCells::takeTile(std::size_t side) {
+    for (std::size_t top = 0; top < m_rows; top += side) {
+        for (std::size_t left = 0; left < m_columns; left += side) {
+            const Block tile{left, top, std::min(left + side, m_columns),
+                             std::min(top + side, m_rows)};
+            auto taken = rectsIn(tile);
+            if (taken.empty()) {
+                continue;
+            }
+            anyWord(tile, [this](std::size_t word, std::uint64_t bits) {
+                m_words[word] &= ~bits;
+                return false;
+            });
+            return taken;
+        }
+    }
+    return {};
+}
+
+std::vector<CGRect> DirtyCells::rectsIn(const Block& area) const {
     std::vector<Block> blocks;
     // The blocks that end with the row above. A run of the same columns makes one of them higher.
     std::vector<std::size_t> above;
-    for (std::size_t row = 0; row < m_rows; ++row) {
+    for (std::size_t row = area.top; row < area.bottom; ++row) {
         std::vector<std::size_t> here;
-        for (const auto& run : runsIn(row)) {
+        for (const auto& run : runsIn(row, area.left, area.right)) {
             const auto same = std::ranges::find_if(above, [&](std::size_t block) {
                 return blocks[block].left == run.left && blocks[block].right == run.right;
             });
@@ -110,9 +133,10 @@ std::vector<CGRect> DirtyCells::rects() const {
     return rects;
 }
 
-std::vector<DirtyCells::Block> DirtyCells::runsIn(std::size_t row) const {
+std::vector<DirtyCells::Block> DirtyCells::runsIn(std::size_t row, std::size_t left,
+                                                  std::size_t right) const {
     std::vector<Block> runs;
-    for (std::size_t column = 0; column < m_columns; ++column) {
+    for (std::size_t column = left; column < right; ++column) {
         if (!isDirty(column, row)) {
             continue;
         }

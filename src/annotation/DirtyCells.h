@@ -27,6 +27,10 @@ public:
     void remove(const DirtyCells& other);
     /// Leaves only what is dirty in both.
     void keep(const DirtyCells& other);
+    /// Takes out what is dirty in the first square of `side` times `side` cells that holds
+    /// anything, of those that lie side by side from the top left, row by row. Answers it as
+    /// `rects` does.
+    std::vector<CGRect> takeTile(std::size_t side);
 
     bool isEmpty() const;
     /// False only when `rect` shares no area with a dirty cell.
@@ -50,8 +54,10 @@ private:
     /// do; ends as soon as `body` answers true, and answers whether it did.
     template <typename Body>
     bool anyWord(const Block& block, Body&& body) const;
-    /// The longest blocks of dirty cells in one row.
-    std::vector<Block> runsIn(std::size_t row) const;
+    /// Rectangles over the dirty cells of a block.
+    std::vector<CGRect> rectsIn(const Block& block) const;
+    /// The longest blocks of dirty cells in one row between two columns, the latter not included.
+    std::vector<Block> runsIn(std::size_t row, std::size_t left, std::size_t right) const;
     bool isDirty(std::size_t column, std::size_t row) const;
     CGRect rectOf(const Block& block) const;
 

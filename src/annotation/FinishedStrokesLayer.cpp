@@ -9,12 +9,21 @@ namespace {
 /// Of one update; more than come by hand between two of them. What an undo brings may be more.
 constexpr std::size_t kMostOnTop = 64;
 
+/// What is to be shown is taken in squares of this many cells, several of them with one step while
+/// they hold fewer pixels than a full one: together less than two full ones, which the host brings
+/// to the screen by its shortest way.
+constexpr std::size_t kTile = 16;
+constexpr CGFloat kFullTile =
+    CGFloat{kTile * kTile} * DirtyCells::cellPixels * DirtyCells::cellPixels;
+/// What a rectangle costs to show besides its pixels, in pixels.
+constexpr CGFloat kPixelsForRect = 1024;
+
 /// To draw this much takes about a tenth of a millisecond, and so does the look at so many strokes.
 constexpr StrokeWalk::Budget kStep{.looks = 1000, .segments = 32};
 
-Damage damageOf(const DirtyCells& cells) {
+Damage damageOf(const std::vector<CGRect>& rects) {
     Damage damage;
-    for (const CGRect& rect : cells.rects()) {
+    for (const CGRect& rect : rects) {
         damage.add(rect);
     }
     return damage;
@@ -38,14 +47,17 @@ Damage FinishedStrokesLayer::update(const StrokeList& strokes, FadingStrokes fad
         return {};
     }
     if (strokes.empty() && fading.empty()) {
-        DirtyCells shown = changes(difference, fading);
-        shown.add(behind());
+        DirtyCells gone = changes(difference, fading);
+        gone.add(behind());
+        gone.add(m_unshown);
         putAside();
         clear();
-        return damageOf(shown);
+        m_unshown = std::move(gone);
+        return {};
     }
     if (!m_bitmap && fading.empty() && takeBack(strokes)) {
-        return damageOf(changes(difference, fading));
+        m_unshown.add(changes(difference, fading));
+        return {};
     }
     if (!m_bitmap) {
         m_bitmap = m_graphics.makeBitmap(m_size, m_scale);
@@ -55,7 +67,7 @@ Damage FinishedStrokesLayer::update(const StrokeList& strokes, FadingStrokes fad
     m_dirty.add(changes(difference, fading));
     m_strokes = strokes;
     m_fading = std::move(fading);
-    return damageOf(drawOnTop(appended));
+    return damageOf(drawOnTop(appended).rects());
 }
 
 void FinishedStrokesLayer::putAside() {
@@ -84,6 +96,7 @@ void FinishedStrokesLayer::clear() {
     m_bitmap.reset();
     m_dirty = DirtyCells(m_size, m_scale);
     m_highlighted = m_dirty;
+    m_unshown = m_dirty;
     m_repaint.reset();
 }
 
@@ -174,6 +187,9 @@ DirtyCells FinishedStrokesLayer::behind() const {
 }
 
 Damage FinishedStrokesLayer::repaintStep() {
+    if (!m_unshown.isEmpty()) {
+        return damageOf(takePiece(m_unshown));
+    }
     if (!isBehind()) {
         return {};
     }
@@ -181,31 +197,47 @@ Damage FinishedStrokesLayer::repaintStep() {
         beginRepaint();
     }
     Repaint& repaint = *m_repaint;
-    repaint.sheet->paint(repaint.bounds, [&](GraphicsContext& context) {
-        repaint.walk.goOn(context, m_graphics, PaintArea(repaint.bounds, repaint.cells), kStep);
-    });
-    return repaint.walk.isAtEnd() ? endRepaint() : Damage();
+    if (!repaint.walk.isAtEnd()) {
+        repaint.sheet->paint(repaint.bounds, [&](GraphicsContext& context) {
+            repaint.walk.goOn(context, m_graphics, PaintArea(repaint.bounds, repaint.cells), kStep);
+        });
+    }
+    return repaint.walk.isAtEnd() ? bringOver() : Damage();
 }
 
 void FinishedStrokesLayer::beginRepaint() {
     const auto cells = std::exchange(m_dirty, DirtyCells(m_size, m_scale));
-    CGRect bounds;
-    for (const CGRect& rect : cells.rects()) {
-        bounds = bounds.isEmpty() ? rect : bounds.unite(rect);
-    }
-    m_repaint.emplace(Repaint{cells, bounds, StrokeWalk(m_strokes, m_fading),
+    m_repaint.emplace(Repaint{cells, damageOf(cells.rects()).bounds(),
+                              StrokeWalk(m_strokes, m_fading),
                               m_graphics.makeBitmap(m_size, m_scale)});
 }
 
-Damage FinishedStrokesLayer::endRepaint() {
-    const Repaint done = *std::exchange(m_repaint, std::nullopt);
-    m_bitmap->paint(done.bounds, [&](GraphicsContext& context) {
-        for (const CGRect& rect : done.cells.rects()) {
+Damage FinishedStrokesLayer::bringOver() {
+    Repaint& repaint = *m_repaint;
+    const auto piece = takePiece(repaint.cells);
+    const Damage damage = damageOf(piece);
+    m_bitmap->paint(damage.bounds(), [&](GraphicsContext& context) {
+        for (const CGRect& rect : piece) {
             context.clear(rect);
-            context.draw(*done.sheet, rect);
+            context.draw(*repaint.sheet, rect);
         }
     });
-    return damageOf(done.cells);
+    if (repaint.cells.isEmpty()) {
+        m_repaint.reset();
+    }
+    return damage;
+}
+
+std::vector<CGRect> FinishedStrokesLayer::takePiece(DirtyCells& cells) const {
+    std::vector<CGRect> piece;
+    CGFloat pixels = 0;
+    while (pixels < kFullTile && !cells.isEmpty()) {
+        for (const CGRect& rect : cells.takeTile(kTile)) {
+            pixels += rect.width * rect.height * m_scale * m_scale + kPixelsForRect;
+            piece.push_back(rect);
+        }
+    }
+    return piece;
 }
 
 void FinishedStrokesLayer::draw(GraphicsContext& context, const CGRect& rect) const {

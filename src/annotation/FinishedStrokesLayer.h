@@ -21,14 +21,16 @@ namespace quillon {
 /// 1. an update marks the cells in which ink comes or goes;
 /// 2. a repaint begins with all cells that are marked by then, and draws the strokes that meet them
 ///    on a sheet of its own, a few with each step;
-/// 3. its last step brings those cells from the sheet into the bitmap, all at once. A cell in which
-///    a stroke was drawn on top in the meantime is left out and marked again;
+/// 3. when the sheet is whole, each step brings some of those cells into the bitmap, from the top
+///    down. A cell in which a stroke was drawn on top in the meantime is left out and marked again;
 /// 4. what was marked since then is the next repaint's, so that changes that follow each other fast
 ///    are seen one after the other and hold up none.
 ///
 /// With no cell left, the bitmap equals the plain walk over the whole list, pixel for pixel. It
 /// exists only while there is something to show; what was cleared is kept aside, so that an undo
-/// brings it back without a walk.
+/// brings it back without a walk. A clear and its undo change the bitmap at once, and are shown
+/// part by part as well: a large picture that goes to the screen in one would hold up all behind
+/// it.
 class FinishedStrokesLayer {
 public:
     explicit FinishedStrokesLayer(Graphics& graphics)
@@ -38,14 +40,15 @@ public:
     /// painted anew.
     void layout(CGSize size, CGFloat scale);
 
-    /// Makes the layer show these strokes, now or with later steps; answers where the picture has
-    /// changed already.
+    /// Makes the layer show these strokes, now or with later steps; answers what is to be shown at
+    /// once.
     Damage update(const StrokeList& strokes, FadingStrokes fading);
 
-    /// Whether there is something left to repaint.
-    bool isBehind() const { return m_repaint || !m_dirty.isEmpty(); }
+    /// Whether there is something left to repaint or to be shown.
+    bool isBehind() const { return m_repaint || !m_dirty.isEmpty() || !m_unshown.isEmpty(); }
     /// Takes one more step, however many strokes there are not much more than some 32 segments
-    /// long; answers where the picture has changed by it.
+    /// long; answers what is to be shown at once, which is about 16,000 device pixels at most times
+    /// and never more than twice as many.
     Damage repaintStep();
 
     /// Draws the part of the layer that lies in `rect`.
@@ -85,7 +88,10 @@ private:
     /// Where the bitmap does not show the strokes.
     DirtyCells behind() const;
     void beginRepaint();
-    Damage endRepaint();
+    /// Brings the next part of the sheet into the bitmap.
+    Damage bringOver();
+    /// Takes out what one step shows.
+    std::vector<CGRect> takePiece(DirtyCells& cells) const;
 
     Graphics& m_graphics;
     CGSize m_size;
@@ -99,6 +105,8 @@ private:
     /// belong below it.
     DirtyCells m_highlighted{{}, 1};
     std::optional<Repaint> m_repaint;
+    /// Where the bitmap has changed, which is not on the screen yet.
+    DirtyCells m_unshown{{}, 1};
     std::optional<Picture> m_aside;
 };
 

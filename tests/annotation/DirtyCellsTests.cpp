@@ -75,6 +75,22 @@ TEST(DirtyCells, cover_what_lies_in_them_alone) {
     EXPECT_FALSE(cells.cover({100, 20, 30, 10}));
 }
 
+TEST(DirtyCells, are_taken_out_square_by_square_from_the_top) {
+    DirtyCells cells(kSize, 1);
+    cells.add({0, 130, 8, 8});
+    cells.add({120, 0, 16, 8});
+    cells.add({496, 296, 4, 4});
+    const std::vector<CGRect> expected{
+        {120, 0, 8, 8}, {128, 0, 8, 8}, {0, 128, 8, 16}, {496, 296, 8, 8}};
+    for (const CGRect& rect : expected) {
+        EXPECT_TRUE(cells.meets(rect));
+        EXPECT_EQ(cells.takeTile(16), std::vector{rect});
+        EXPECT_FALSE(cells.meets(rect));
+    }
+    EXPECT_TRUE(cells.isEmpty());
+    EXPECT_TRUE(cells.takeTile(16).empty());
+}
+
 TEST(DirtyCells, meet_a_rectangle_exactly_when_one_of_their_rectangles_does) {
     std::mt19937 random(11);
     const auto pick = [&](unsigned count) { return static_cast<CGFloat>(random() % count); };

@@ -46,6 +46,37 @@ protected:
         }
         return steps;
     }
+    /// What each step shows, to the end.
+    std::vector<Damage> pieces() {
+        std::vector<Damage> shown;
+        while (layer.isBehind()) {
+            if (const Damage piece = layer.repaintStep(); !piece.isEmpty()) {
+                shown.push_back(piece);
+            }
+        }
+        return shown;
+    }
+    /// That they are many, small, in order from the top, and the whole of `rect` in the end.
+    static void expectPiecesOf(const CGRect& rect, const std::vector<Damage>& pieces) {
+        EXPECT_GT(pieces.size(), 10U);
+        Damage all;
+        CGFloat top = 0;
+        for (const Damage& piece : pieces) {
+            CGFloat area = 0;
+            for (const CGRect& part : piece.rects()) {
+                area += part.width * part.height;
+            }
+            EXPECT_LE(area, 32768);
+            EXPECT_GE(piece.bounds().minY(), top);
+            top = piece.bounds().minY();
+            all.add(piece);
+        }
+        for (CGFloat y = rect.minY(); y < rect.maxY(); y += 10) {
+            for (CGFloat x = rect.minX(); x < rect.maxX(); x += 10) {
+                EXPECT_TRUE(all.intersects({x, y, 1, 1})) << x << ", " << y;
+            }
+        }
+    }
     static StrokeList without(StrokeList strokes, CGFloat width) {
         strokes.removeIf([&](const DrawingStroke& stroke) { return stroke.lineWidth == width; });
         return strokes;
@@ -67,6 +98,9 @@ protected:
     const CGPoint a{10, 10};
     const CGPoint b{50, 50};
     const CGRect middle{29, 29, 2, 2};
+    /// Across the view, and what lies in it.
+    const DrawingStroke broad = freehand({{0, 400}, {1000, 400}}, DrawingTool::pen, 500);
+    const CGRect bandOfBroad{0, 160, 1000, 480};
 
 private:
     Widths drawn() const {
@@ -171,6 +205,86 @@ TEST_F(FinishedLayer, the_old_picture_stays_until_the_new_one_is_whole) {
     stepsToTheEnd();
     EXPECT_TRUE(damage.intersects(middle));
     EXPECT_EQ(graphics.drawn.back().kind, Kind::bitmap);
+}
+
+TEST_F(FinishedLayer, a_large_picture_is_shown_in_small_pieces_from_the_top) {
+    const StrokeList before = pile(1);
+    StrokeList strokes = before;
+    strokes.append(broad);
+    drawnBy(strokes);
+    EXPECT_TRUE(drawnAtOnceBy(before).empty());
+    graphics.drawn.clear();
+    expectPiecesOf(bandOfBroad, pieces());
+}
+
+TEST_F(FinishedLayer, a_piece_is_brought_into_the_bitmap_no_sooner_than_it_is_shown) {
+    const StrokeList before = pile(1);
+    StrokeList strokes = before;
+    strokes.append(broad);
+    drawnBy(strokes);
+    layer.update(before, {});
+    while (layer.isBehind()) {
+        graphics.drawn.clear();
+        const Damage piece = layer.repaintStep();
+        for (const auto& drawing : graphics.drawn) {
+            if (drawing.kind == Kind::clear) {
+                EXPECT_TRUE(piece.intersects(drawing.rect));
+            }
+        }
+        EXPECT_FALSE(graphics.drawn.empty());
+    }
+}
+
+TEST_F(FinishedLayer, a_stroke_drawn_while_a_picture_is_brought_over_is_left_alone_by_it) {
+    const StrokeList before = pile(1);
+    StrokeList strokes = before;
+    strokes.append(broad);
+    drawnBy(strokes);
+    layer.update(before, {});
+    const Damage first = layer.repaintStep();
+    ASSERT_TRUE(layer.isBehind());
+    strokes = before;
+    strokes.append(freehand({{500, 200}, {500, 600}}, DrawingTool::pen, 9));
+    EXPECT_EQ(drawnAtOnceBy(strokes), Widths{9});
+    EXPECT_FALSE(first.intersects({499, 399, 2, 2}));
+    // Until it is drawn once more, after the picture that knows nothing of it.
+    graphics.drawn.clear();
+    int clearsBefore = 0;
+    Widths widths;
+    while (layer.isBehind()) {
+        layer.repaintStep();
+        for (const auto& drawing : std::exchange(graphics.drawn, {})) {
+            if (drawing.kind == Kind::stroke) {
+                widths.push_back(drawing.style.lineWidth);
+            }
+            const bool isOver = drawing.rect.intersects({499, 399, 2, 2});
+            clearsBefore += drawing.kind == Kind::clear && isOver && widths.empty() ? 1 : 0;
+        }
+    }
+    EXPECT_EQ(widths, Widths{9});
+    EXPECT_EQ(clearsBefore, 0);
+}
+
+TEST_F(FinishedLayer, a_clear_and_its_undo_are_shown_in_small_pieces_from_the_top) {
+    const StrokeList strokes{broad};
+    drawnBy(strokes);
+    EXPECT_TRUE(drawnAtOnceBy({}).empty());
+    EXPECT_TRUE(damage.isEmpty());
+    expectPiecesOf(bandOfBroad, pieces());
+    EXPECT_TRUE(drawnAtOnceBy(strokes).empty());
+    EXPECT_TRUE(damage.isEmpty());
+    expectPiecesOf(bandOfBroad, pieces());
+}
+
+TEST_F(FinishedLayer, a_clear_owes_what_an_undone_one_has_not_shown_yet) {
+    const StrokeList strokes{broad};
+    drawnBy(strokes);
+    layer.update({}, {});
+    layer.repaintStep();
+    layer.update(strokes, {});
+    layer.repaintStep();
+    layer.update({}, {});
+    expectPiecesOf(bandOfBroad, pieces());
 }
 
 TEST_F(FinishedLayer, no_step_draws_more_than_it_may) {
@@ -340,7 +454,9 @@ TEST_F(FinishedLayer, the_undo_of_a_clear_draws_nothing_anew) {
     EXPECT_TRUE(drawnBy(strokes).empty());
     EXPECT_EQ(graphics.lastBitmap, bitmap);
     drawnBy({});
-    EXPECT_TRUE(layer.update(strokes, {}).intersects(middle));
+    damage = {};
+    EXPECT_TRUE(drawnBy(strokes).empty());
+    EXPECT_TRUE(damage.intersects(middle));
     RecordingContext screen;
     layer.draw(screen, {0, 0, 9, 9});
     ASSERT_EQ(screen.drawings.size(), 1U);
