@@ -168,9 +168,12 @@ Damage OverlayContainerView::takeDamage() {
     damage.add(
         m_finishedLayer.update(m_drawingState.strokes, m_fades.at(now, m_drawingState.strokes)));
     const Damage live = bringLiveLayerUpToDate();
-    if (live.isEmpty()) {
-        // What takes little is done with its change. A motion of the pen waits for nothing.
-        damage.add(m_finishedLayer.repaintStep());
+    if (!live.isEmpty()) {
+        // A motion of the pen waits for nothing.
+        m_penRest.motionShown(now);
+    } else if (!m_isRepaintPending) {
+        // What takes little is done with its change.
+        damage.add(repaintUnlessResting(now));
     }
     damage.add(live);
     keepRepainting();
@@ -182,14 +185,27 @@ void OverlayContainerView::keepRepainting() {
     if (!m_finishedLayer.isBehind() || std::exchange(m_isRepaintPending, true)) {
         return;
     }
-    Host::current().mainQueue().async(m_lifetime.guard([this] {
+    MainQueue& mainQueue = Host::current().mainQueue();
+    mainQueue.asyncAfter(m_penRest.remaining(mainQueue.now()), m_lifetime.guard([this] {
         m_isRepaintPending = false;
-        if (const Damage damage = m_finishedLayer.repaintStep(); !damage.isEmpty()) {
+        const Damage damage = repaintUnlessResting(Host::current().mainQueue().now());
+        if (!damage.isEmpty()) {
             m_pendingDamage.add(damage);
             setNeedsUpdate();
         }
         keepRepainting();
     }));
+}
+
+Damage OverlayContainerView::repaintUnlessResting(double now) {
+    if (m_penRest.remaining(now) > 0) {
+        return {};
+    }
+    Damage damage = m_finishedLayer.repaintStep();
+    if (!damage.isEmpty() && m_dragCanvas) {
+        m_penRest.otherShown(now);
+    }
+    return damage;
 }
 
 Damage OverlayContainerView::bringLiveLayerUpToDate() {

@@ -5,6 +5,7 @@
 #include "annotation/FadeTransition.h"
 #include "annotation/FinishedStrokesLayer.h"
 #include "annotation/LiveStrokeLayer.h"
+#include "annotation/PenRest.h"
 #include "annotation/StrokeFades.h"
 #include "annotation/ToolbarPlace.h"
 #include "foundation/Cancellable.h"
@@ -77,6 +78,9 @@ private:
     Damage bringLiveLayerUpToDate();
     /// Takes the steps of a repaint one by one, with the input that has arrived between them.
     void keepRepainting();
+    /// Takes one of them, unless the picture of a motion, or of the step before while a drag goes
+    /// on, is still on its way to the screen.
+    Damage repaintUnlessResting(double now);
     /// Asks for another update while anything is still moving.
     void keepAnimating(double now);
     CGRect bounds() const { return {0, 0, m_size.width, m_size.height}; }
@@ -93,6 +97,7 @@ private:
     DrawingCanvasView* m_dragCanvas = nullptr;
     FinishedStrokesLayer m_finishedLayer;
     bool m_isRepaintPending = false;
+    PenRest m_penRest;
     LiveStrokeLayer m_liveLayer;
     bool m_isLiveLayerBehind = false;
     StrokeFades m_fades;

@@ -1,4 +1,5 @@
 #include "annotation/OverlayTest.h"
+#include "annotation/PenRest.h"
 
 #include <gtest/gtest.h>
 
@@ -94,6 +95,73 @@ TEST_F(OverlayDamage, a_repaint_takes_a_step_with_each_turn_and_asks_for_an_upda
     EXPECT_GT(turns, 10);
     EXPECT_TRUE(host.mainQueue.isIdle());
     EXPECT_TRUE(update().intersects({29, 29, 2, 2}));
+}
+
+TEST_F(OverlayDamage, a_repaint_rests_while_the_picture_of_a_motion_is_on_its_way) {
+    annotate();
+    for (int stroke = 0; stroke < 500; ++stroke) {
+        drag({10, 10}, {50, 50});
+    }
+    overlay.mouseDown({300, 300});
+    overlay.mouseDragged({350, 350});
+    state().undo();
+    update();
+    host.graphics.drawn.clear();
+    host.mainQueue.advance(PenRest::length * 0.9);
+    EXPECT_TRUE(host.graphics.drawn.empty());
+    host.mainQueue.advance(PenRest::length * 0.2);
+    EXPECT_FALSE(host.graphics.drawn.empty());
+}
+
+TEST_F(OverlayDamage, motions_without_a_gap_leave_a_repaint_time_to_end) {
+    annotate();
+    for (int stroke = 0; stroke < 500; ++stroke) {
+        drag({10, 10}, {50, 50});
+    }
+    overlay.mouseDown({300, 300});
+    state().undo();
+    int motions = 0;
+    Damage damage;
+    for (; !damage.intersects({29, 29, 2, 2}) && motions < 1000; ++motions) {
+        overlay.mouseDragged({300.0 + motions % 50, 300});
+        damage = update();
+        host.mainQueue.pass(PenRest::length / 10);
+        host.mainQueue.turn();
+    }
+    EXPECT_LT(motions, 100);
+}
+
+TEST_F(OverlayDamage, during_a_drag_a_picture_goes_to_the_screen_piece_after_piece_with_a_rest) {
+    annotate();
+    settings().lineWidth = 400;
+    drag({0, 400}, {1000, 400});
+    update();
+    settings().lineWidth = 4;
+    overlay.mouseDown({10, 10});
+    update();
+    state().undo();
+    int pieces = 0;
+    for (Damage piece = update(); !piece.isEmpty(); piece = update()) {
+        ++pieces;
+        const int before = updateRequests;
+        host.mainQueue.advance(PenRest::length * 0.5);
+        EXPECT_EQ(updateRequests, before) << "after piece " << pieces;
+        host.mainQueue.advance(PenRest::length * 0.51);
+    }
+    EXPECT_GT(pieces, 10);
+}
+
+TEST_F(OverlayDamage, with_no_drag_a_picture_goes_to_the_screen_without_a_rest) {
+    annotate();
+    settings().lineWidth = 400;
+    drag({0, 400}, {1000, 400});
+    host.mainQueue.advance(1);
+    update();
+    state().undo();
+    Damage shown = update();
+    host.mainQueue.run();
+    shown.add(update());
+    EXPECT_TRUE(shown.intersects({990, 590, 1, 1}));
 }
 
 TEST_F(OverlayDamage, a_new_size_paints_everything) {

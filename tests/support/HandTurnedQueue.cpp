@@ -1,5 +1,6 @@
 #include "support/HandTurnedQueue.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace quillon::test {
@@ -40,7 +41,7 @@ void HandTurnedQueue::advance(double seconds) {
     const double end = m_now + seconds;
     while (!m_pending.empty() && m_pending.begin()->first.first <= end) {
         const auto entry = m_pending.extract(m_pending.begin());
-        m_now = entry.key().first;
+        m_now = std::max(m_now, entry.key().first);
         entry.mapped()();
     }
     m_now = end;

@@ -1,4 +1,5 @@
 #include "annotation/AnnotationCanvas.h"
+#include "annotation/PenRest.h"
 #include "annotation/StrokeRenderer.h"
 #include "desktop/painting/PaintedPicture.h"
 #include "desktop/qt/QtGraphics.h"
@@ -28,16 +29,19 @@ public:
         update();
     }
 
-    /// What the queue holds is done, and the update that follows it.
+    /// The pen rests, what the queue holds is done, and the update that follows it.
     void turn() {
+        host.mainQueue.pass(PenRest::length);
         host.mainQueue.turn();
         update();
     }
-    /// Whatever is to be done at this time is done.
+    /// Whatever is to be done without further input is done.
     void settle() {
         update();
-        host.mainQueue.run();
-        update();
+        while (!host.mainQueue.isIdle()) {
+            host.mainQueue.advance(PenRest::length);
+            update();
+        }
     }
 
     AppSettings& settings() { return AppSettings::shared(); }
