@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QThread>
 #include <QTimerEvent>
 
 #include <algorithm>
@@ -64,6 +65,9 @@ void QtMainQueue::clear() {
 bool QtMainQueue::event(QEvent* event) {
     if (event->type() == WorkEvent::kind()) {
         static_cast<WorkEvent*>(event)->work();
+        // Of a chain of pieces the scheduler sees one long run, behind which the thread that reads
+        // the input, or the server itself, would wait for milliseconds.
+        QThread::yieldCurrentThread();
         return true;
     }
     return QObject::event(event);
