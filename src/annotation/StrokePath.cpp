@@ -42,9 +42,6 @@ void visitPieces(const FreehandCurve::Segment& curve, CGFloat reach, int depth,
 
 constexpr int kDeepestDivision = 4;
 
-/// Far less than can be seen, far more than what a host takes for nothing.
-constexpr CGPoint kHair{1e-6, 0};
-
 void addArrowHead(CGPoint start, CGPoint end, Path& path) {
     constexpr CGFloat length = 15;
     constexpr CGFloat halfAngle = std::numbers::pi / 6;
@@ -81,10 +78,8 @@ FreehandCurve::Segment FreehandCurve::segment(std::size_t index) const {
     const CGPoint p0 = point(index);
     const CGPoint p1 = point(index + 1);
     const CGPoint p2 = point(index + 2);
-    const bool isLast = index + 3 == m_points.size();
-    const CGPoint p3 = isLast ? p2 : point(index + 3);
-    const CGPoint end = isLast && endsWhereItBegins() ? p2 + kHair : p2;
-    return {index == 0 ? p0 : p1, p1 + (p2 - p0) / 6, p2 - (p3 - p1) / 6, end};
+    const CGPoint p3 = index + 3 < m_points.size() ? point(index + 3) : p2;
+    return {index == 0 ? p0 : p1, p1 + (p2 - p0) / 6, p2 - (p3 - p1) / 6, p2};
 }
 
 void FreehandCurve::addSegments(std::size_t first, std::size_t last, Path& path) const {

@@ -43,9 +43,6 @@ public:
     /// Segment `index`, which for a Catmull-Rom spline turned into Bézier form runs from p1 to p2
     /// with the control points p1 + (p2 - p0) / 6 and p2 - (p3 - p1) / 6. The first one starts at
     /// the very first point all the same, and the last one takes p2 for the missing p3.
-    ///
-    /// Of a curve that ends exactly where it begins, the end lies a hair beside it. A host may take
-    /// such a path for a closed one, with a join there, and a part of it has the caps of its ends.
     Segment segment(std::size_t index) const;
 
     /// Appends segments `first` to `last`, the latter not included, as one run.
@@ -53,7 +50,6 @@ public:
 
 private:
     CGPoint point(std::size_t index) const { return m_points[index].cgPoint(); }
-    bool endsWhereItBegins() const { return m_points.front() == m_points.back(); }
 
     std::span<const CodablePoint> m_points;
 };

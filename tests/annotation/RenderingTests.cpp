@@ -55,19 +55,6 @@ TEST(Rendering, more_points_are_joined_curves_by_the_catmull_rom_rule) {
                                                                {24, 6}}));
 }
 
-TEST(Rendering, a_curve_that_ends_where_it_begins_is_left_open_by_a_hair) {
-    const std::vector<CGPoint> loop{{10, 10}, {50, 10}, {30, 40}, {10, 10}};
-    const auto drawings = drawn(freehand(loop));
-    ASSERT_EQ(drawings.size(), 1U);
-    const CGPoint end = drawings[0].path.points().back();
-    EXPECT_NE(end, loop.back());
-    EXPECT_NEAR(end.x, loop.back().x, 1e-5);
-    EXPECT_NEAR(end.y, loop.back().y, 1e-5);
-
-    const auto longer = drawn(freehand({{10, 10}, {50, 10}, {30, 40}, {10, 10}, {0, 0}}));
-    EXPECT_EQ(longer[0].path.points()[6], loop.back()) << "a curve that goes on runs through it";
-}
-
 TEST(Rendering, fewer_than_two_points_draw_nothing) {
     EXPECT_TRUE(drawn(freehand({})).empty());
     EXPECT_TRUE(drawn(freehand({{1, 1}})).empty());
