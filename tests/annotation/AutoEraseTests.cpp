@@ -54,6 +54,32 @@ TEST_F(AutoErase, a_stroke_fades_over_half_a_second) {
     EXPECT_TRUE(host.mainQueue.isIdle());
 }
 
+TEST_F(AutoErase, however_many_strokes_fade_at_once_input_waits_for_one_step_and_they_go_in_time) {
+    for (int stroke = 0; stroke < 200; ++stroke) {
+        drag({10, 10}, {50, 50});
+    }
+    host.mainQueue.advance(2);
+    update();
+    std::size_t drawn = 0;
+    for (int frame = 1; frame <= 4; ++frame) {
+        host.mainQueue.advance(0.1);
+        host.graphics.drawn.clear();
+        update();
+        for (int turn = 0; turn < 10; ++turn) {
+            EXPECT_LE(strokesDrawn().size(), 32U);
+            drawn += strokesDrawn().size();
+            host.graphics.drawn.clear();
+            host.mainQueue.turn();
+        }
+    }
+    EXPECT_EQ(drawn, 4U * 200);
+    host.mainQueue.advance(0.2);
+    update();
+    host.mainQueue.run();
+    EXPECT_TRUE(painted().empty());
+    EXPECT_TRUE(state().strokes->empty());
+}
+
 TEST_F(AutoErase, an_undo_within_the_fade_shows_the_stroke_in_full_at_once) {
     drag({10, 10}, {50, 50});
     host.mainQueue.advance(2);
