@@ -28,12 +28,10 @@ QPainterPath toQPainterPath(const Path& path) {
     result.setFillRule(Qt::WindingFill);
     result.reserve(static_cast<int>(path.points().size()));
     const auto& verbs = path.verbs();
-    CGPoint start;
     auto point = path.points().begin();
     for (auto verb = verbs.begin(); verb != verbs.end(); ++verb) {
         switch (*verb) {
         case Path::Verb::move:
-            start = *point;
             result.moveTo(toQPointF(*point++));
             break;
         case Path::Verb::line:
@@ -42,7 +40,7 @@ QPainterPath toQPainterPath(const Path& path) {
         case Path::Verb::curve: {
             const auto next = std::next(verb);
             const bool staysOpen = next == verbs.end() || *next == Path::Verb::move;
-            const CGPoint end = staysOpen && point[2] == start ? point[2] + kHair : point[2];
+            const CGPoint end = staysOpen ? point[2] + kHair : point[2];
             result.cubicTo(toQPointF(point[0]), toQPointF(point[1]), toQPointF(end));
             point += 3;
             break;
