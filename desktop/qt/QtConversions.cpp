@@ -5,16 +5,8 @@
 #include <QtMath>
 
 #include <algorithm>
-#include <iterator>
 
 namespace quillon::desktop {
-
-namespace {
-
-/// Far less than can be seen, far more than what the toolkit takes for nothing.
-constexpr CGPoint kHair{1e-6, 0};
-
-} // namespace
 
 QColor toQColor(const Color& color) {
     const auto parts = color.resolved();
@@ -27,24 +19,19 @@ QPainterPath toQPainterPath(const Path& path) {
     QPainterPath result;
     result.setFillRule(Qt::WindingFill);
     result.reserve(static_cast<int>(path.points().size()));
-    const auto& verbs = path.verbs();
     auto point = path.points().begin();
-    for (auto verb = verbs.begin(); verb != verbs.end(); ++verb) {
-        switch (*verb) {
+    for (const auto verb : path.verbs()) {
+        switch (verb) {
         case Path::Verb::move:
             result.moveTo(toQPointF(*point++));
             break;
         case Path::Verb::line:
             result.lineTo(toQPointF(*point++));
             break;
-        case Path::Verb::curve: {
-            const auto next = std::next(verb);
-            const bool staysOpen = next == verbs.end() || *next == Path::Verb::move;
-            const CGPoint end = staysOpen ? point[2] + kHair : point[2];
-            result.cubicTo(toQPointF(point[0]), toQPointF(point[1]), toQPointF(end));
+        case Path::Verb::curve:
+            result.cubicTo(toQPointF(point[0]), toQPointF(point[1]), toQPointF(point[2]));
             point += 3;
             break;
-        }
         case Path::Verb::close:
             result.closeSubpath();
             break;

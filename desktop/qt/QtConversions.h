@@ -18,9 +18,6 @@ namespace quillon::desktop {
 
 /// Components outside of 0 to 1 are clamped, since nothing brighter can be painted.
 QColor toQColor(const Color& color);
-/// A curve that is left open ends a hair beside its end. The toolkit would close one that ends
-/// exactly where it began, with a join there, while a part of it painted by itself has the caps of
-/// its ends.
 QPainterPath toQPainterPath(const Path& path);
 /// For a painter with so many device pixels to a point. No line is thinner than a pixel.
 QPen toQPen(const Color& color, const StrokeStyle& style, CGFloat scale);

@@ -247,6 +247,19 @@ TEST(Rendering, strokes_outside_of_the_clip_are_left_out) {
     EXPECT_EQ(context.drawings.size(), 1U);
 }
 
+TEST(Rendering, a_curve_that_ends_where_it_began_is_drawn_as_a_whole_where_its_ends_meet) {
+    const DrawingStroke loop =
+        freehand({{0, 0}, {100, 0}, {200, 0}, {200, 200}, {0, 200}, {0, 100}, {0, 0}});
+    const SegmentIndex segments(loop.points);
+    const auto drawnIn = [&](const CGRect& rect) {
+        RecordingContext context;
+        return drawStroke(context, loop, BlendMode::normal, segments, PaintArea(rect));
+    };
+    EXPECT_EQ(drawnIn({-2, -2, 4, 4}), 5U);
+    EXPECT_GT(drawnIn({198, 198, 4, 4}), 0U);
+    EXPECT_LT(drawnIn({198, 198, 4, 4}), 5U);
+}
+
 TEST(SegmentIndex, finds_every_segment_near_a_rectangle) {
     std::mt19937 random(5);
     const auto coordinate = [&] { return static_cast<CGFloat>(random() % 500); };
