@@ -37,6 +37,7 @@ protected:
 
     /// Whether each motion that the program was told of came from a single device.
     std::vector<bool> motionsOfADrag() {
+        program.sync();
         input.moveTo({20, 20});
         input.press();
         input.moveTo({30, 30});
