@@ -75,6 +75,7 @@ void OverlayContainerView::clearAllAnnotations() {
     ++m_textEditorResetID;
     bringCanvasesUpToDate();
     m_drawingState.clearAll();
+    m_toolbar.followHistory();
 }
 
 // The pointer.
@@ -122,6 +123,7 @@ void OverlayContainerView::mouseUp(CGPoint location) {
     bringCanvasesUpToDate();
     if (m_dragCanvas) {
         std::exchange(m_dragCanvas, nullptr)->mouseUp(location);
+        m_toolbar.followHistory();
         setNeedsUpdate();
     }
 }

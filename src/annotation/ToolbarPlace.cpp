@@ -13,20 +13,33 @@ constexpr CGFloat kFromTop = 50;
 void ToolbarPlace::bringUpToDate(CGSize viewSize) {
     if (!m_appSettings.isAnnotationEnabled || !m_appSettings.showFloatingToolbar) {
         m_toolbar.reset();
-    } else if (m_toolbar) {
-        m_toolbar->setHistory(m_drawingState.canUndo(), m_drawingState.canRedo());
-    } else {
+    } else if (!m_toolbar) {
         m_toolbar = makeToolbar();
         m_position = firstPosition(viewSize);
+    }
+    followHistory();
+}
+
+void ToolbarPlace::followHistory() {
+    if (m_toolbar) {
+        m_toolbar->setHistory(m_drawingState.canUndo(), m_drawingState.canRedo());
     }
 }
 
 std::shared_ptr<FloatingToolbarView> ToolbarPlace::makeToolbar() {
+    const auto undo = [this] {
+        m_drawingState.undo();
+        followHistory();
+    };
+    const auto redo = [this] {
+        m_drawingState.redo();
+        followHistory();
+    };
     return std::make_shared<FloatingToolbarView>(
         m_appSettings.selectedTool.binding(), m_appSettings.selectedColor.binding(),
         m_appSettings.lineWidth.binding(), m_appSettings.quickColors.binding(),
-        m_appSettings.isWhiteboardMode.binding(), m_onClear, [this] { m_drawingState.undo(); },
-        [this] { m_drawingState.redo(); }, m_drawingState.canUndo(), m_drawingState.canRedo());
+        m_appSettings.isWhiteboardMode.binding(), m_onClear, undo, redo, m_drawingState.canUndo(),
+        m_drawingState.canRedo());
 }
 
 CGPoint ToolbarPlace::firstPosition(CGSize viewSize) const {

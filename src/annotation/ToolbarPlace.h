@@ -34,6 +34,10 @@ public:
     /// Lets it come and go as the settings say, on a view of that size.
     void bringUpToDate(CGSize viewSize);
 
+    /// Tells the toolbar at once whether there is something to undo and to redo: a key for it may
+    /// come before the next update.
+    void followHistory();
+
     /// The toolbar, while it stands.
     const std::shared_ptr<FloatingToolbarView>& toolbar() const { return m_toolbar; }
     std::optional<PlacedControls> placedControls() const;

@@ -34,6 +34,22 @@ TEST_F(OverlayToolbar, its_undo_and_redo_follow_the_history) {
     EXPECT_EQ(state().strokes->size(), 1U);
 }
 
+TEST_F(OverlayToolbar, it_knows_of_a_change_of_the_history_before_the_next_update) {
+    annotate();
+    overlay.mouseDown({10, 10});
+    overlay.mouseDragged({50, 50});
+    overlay.mouseUp({50, 50});
+    EXPECT_FALSE(undoControl().isDisabled);
+    undoControl().button.action();
+    EXPECT_TRUE(undoControl().isDisabled);
+    EXPECT_FALSE(redoControl().isDisabled);
+    redoControl().button.action();
+    EXPECT_TRUE(redoControl().isDisabled);
+    control(10).button.action();
+    undoControl().button.action();
+    EXPECT_FALSE(redoControl().isDisabled);
+}
+
 TEST_F(OverlayToolbar, one_that_comes_later_knows_the_history_at_once) {
     annotate();
     drag({10, 10}, {50, 50});

@@ -8,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QPainterPath>
+#include <QShortcut>
 
 #include <utility>
 
@@ -59,7 +60,23 @@ void PaletteWidget::layOut(const PaletteRow& row) {
         for (const PaletteControl& control : controlsOf(child)) {
             m_buttons.push_back(new ToolbarButtonWidget(control, *this));
             cell->addWidget(m_buttons.back());
+            if (control.keyEquivalent) {
+                addKeys(*control.keyEquivalent, *m_buttons.back());
+            }
         }
+    }
+}
+
+void PaletteWidget::addKeys(const KeyEquivalent& keys, ToolbarButtonWidget& button) {
+    const QString key = QChar(keys.key).toUpper();
+    const QString shift = keys.withShift ? "Shift+" : "";
+    for (const char* command : {"Ctrl+", "Meta+"}) {
+        // A key may come before the update that would have enabled its button.
+        auto* shortcut = new QShortcut(QKeySequence(command + shift + key), this);
+        connect(shortcut, &QShortcut::activated, &button, [this, &button] {
+            bringUpToDate();
+            button.click();
+        });
     }
 }
 

@@ -27,6 +27,7 @@ protected:
 
 private:
     void layOut(const PaletteRow& row);
+    void addKeys(const KeyEquivalent& keys, ToolbarButtonWidget& button);
     void followPopover();
 
     std::shared_ptr<FloatingToolbarView> m_toolbar;

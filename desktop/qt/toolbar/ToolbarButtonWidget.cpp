@@ -10,11 +10,9 @@
 #include <QCursor>
 #include <QFocusEvent>
 #include <QGuiApplication>
-#include <QKeySequence>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
-#include <QShortcut>
 #include <QTimerEvent>
 
 #include <utility>
@@ -45,24 +43,10 @@ ToolbarButtonWidget::ToolbarButtonWidget(PaletteControl control, QWidget& parent
             m_control.button.action();
         }
     });
-    addKeys();
     follow(m_control);
 }
 
 ToolbarButtonWidget::~ToolbarButtonWidget() = default;
-
-void ToolbarButtonWidget::addKeys() {
-    if (!m_control.keyEquivalent) {
-        return;
-    }
-    const QString key = QChar(m_control.keyEquivalent->key).toUpper();
-    const QString shift = m_control.keyEquivalent->withShift ? "Shift+" : "";
-    for (const char* command : {"Ctrl+", "Meta+"}) {
-        auto* shortcut = new QShortcut(QKeySequence(command + shift + key), this);
-        connect(shortcut, &QShortcut::activated, this, [this] { click(); });
-        m_keys.push_back(shortcut);
-    }
-}
 
 void ToolbarButtonWidget::follow(PaletteControl control) {
     ToolbarButton button = m_control.button;
@@ -71,9 +55,6 @@ void ToolbarButtonWidget::follow(PaletteControl control) {
     m_control.button = std::move(button);
 
     setEnabled(!m_control.isDisabled && !m_control.button.isDisabled);
-    for (QShortcut* key : m_keys) {
-        key->setEnabled(isEnabled());
-    }
     setAccessibleName(QString::fromStdString(m_control.button.label));
     setCheckable(m_control.button.isSelected);
     setChecked(m_control.button.isSelected);

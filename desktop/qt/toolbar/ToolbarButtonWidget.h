@@ -9,9 +9,6 @@
 #include <QElapsedTimer>
 
 #include <memory>
-#include <vector>
-
-class QShortcut;
 
 namespace quillon::desktop {
 
@@ -44,7 +41,6 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
-    void addKeys();
     enum class OpenedBy { pointer, keyboard };
     void showMenu(OpenedBy by);
     QPoint menuPlace() const;
@@ -57,7 +53,6 @@ private:
     QFont captionFont(const QString& caption) const;
 
     PaletteControl m_control;
-    std::vector<QShortcut*> m_keys;
     std::unique_ptr<PaletteMenuWidget> m_menu;
     Spring m_scale{ToolbarButton::springResponse, ToolbarButton::springDampingFraction, 1};
     QElapsedTimer m_clock;

@@ -1,10 +1,14 @@
 #include "desktop/program/ProgramTest.h"
 
 #include <algorithm>
+#include <chrono>
 #include <optional>
 
 namespace quillon::test {
 namespace {
+
+/// Some time after a window has lost the keyboard the toolkit notices, and closes all menus.
+constexpr std::chrono::milliseconds kToolkitNotices{400};
 
 class TrayItem : public ProgramTest {
 protected:
@@ -123,6 +127,7 @@ TEST_F(TrayItem, the_menu_opens_over_a_drawing_left_standing_and_switches_annota
     ASSERT_TRUE(showsInk({400, 200}));
     toggleAnnotation();
     ASSERT_TRUE(eventually([this] { return !takesPointer(); }));
+    ASSERT_TRUE(stays([this] { return !takesPointer(); }, kToolkitNotices));
     openMenu();
     input.tap("Down");
     input.tap("Return");

@@ -23,7 +23,10 @@ protected:
         m_window.setGeometry(0, 0, 1600, 900);
         placeAt({800, 200});
         m_window.show();
+        // The keys of the palette are those of the window that has the keyboard.
+        m_window.activateWindow();
         QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
     }
 
     void placeAt(QPointF center) { palette.place(center); }

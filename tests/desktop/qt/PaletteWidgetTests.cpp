@@ -48,6 +48,13 @@ TEST_F(Palette, undo_and_redo_without_history_ignore_clicks_and_their_keys) {
     EXPECT_EQ(calls, (std::vector<std::string>{"undo", "redo"}));
 }
 
+TEST_F(Palette, a_key_is_heard_that_comes_before_the_update_for_its_button) {
+    view->setHistory(true, true);
+    QTest::keyClick(&palette, Qt::Key_Z, Qt::ControlModifier);
+    QTest::keyClick(&palette, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(calls, (std::vector<std::string>{"undo", "redo"}));
+}
+
 TEST_F(Palette, a_tool_picked_under_the_pointer_takes_the_hover_away_until_it_comes_again) {
     enter(button(tool));
     settle();
