@@ -37,6 +37,7 @@ int wholeMilliseconds(double seconds) {
 } // namespace
 
 void QtMainQueue::async(Work work) {
+    ++m_posted;
     QCoreApplication::postEvent(this, new WorkEvent(std::move(work)));
 }
 
@@ -60,14 +61,18 @@ void QtMainQueue::clear() {
     m_timer.stop();
     m_delayed.clear();
     QCoreApplication::removePostedEvents(this, WorkEvent::kind());
+    m_posted = 0;
 }
 
 bool QtMainQueue::event(QEvent* event) {
     if (event->type() == WorkEvent::kind()) {
+        --m_posted;
         static_cast<WorkEvent*>(event)->work();
-        // Of a chain of pieces the scheduler sees one long run, behind which the thread that reads
-        // the input, or the server itself, would wait for milliseconds.
-        QThread::yieldCurrentThread();
+        if (m_posted > 0) {
+            // Of a chain of pieces the scheduler sees one long run, behind which the thread that
+            // reads the input, or the server itself, would wait for milliseconds.
+            QThread::yieldCurrentThread();
+        }
         return true;
     }
     return QObject::event(event);

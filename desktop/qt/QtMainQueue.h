@@ -30,6 +30,8 @@ protected:
 private:
     void setTimerForFirstDeadline();
 
+    /// Work for the next turn that waits.
+    int m_posted = 0;
     std::uint64_t m_order = 0;
     /// By deadline, then by order of arrival.
     std::map<std::pair<double, std::uint64_t>, Work> m_delayed;
