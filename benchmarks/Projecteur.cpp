@@ -5,6 +5,7 @@
 #include "desktop/support/Eventually.h"
 
 #include <chrono>
+#include <exception>
 #include <stdexcept>
 
 namespace quillon::bench {
@@ -30,6 +31,15 @@ Projecteur::Projecteur(test::VirtualDesktop& desktop)
     : m_environment(environmentOn(desktop))
     , m_process({"projecteur", "--disable-uinput"}, m_environment) {
     order("spot=off");
+}
+
+Projecteur::~Projecteur() {
+    // Killed, it would leave behind what makes a later start believe that it already runs.
+    try {
+        takes("quit");
+        m_process.waitForExit();
+    } catch (const std::exception&) {
+    }
 }
 
 void Projecteur::switchOn() {

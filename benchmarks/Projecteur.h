@@ -12,6 +12,9 @@ public:
 
     /// Ready to be switched on when the constructor returns.
     explicit Projecteur(test::VirtualDesktop& desktop);
+    ~Projecteur();
+    Projecteur(const Projecteur&) = delete;
+    Projecteur& operator=(const Projecteur&) = delete;
 
     pid_t process() const { return m_process.pid(); }
     void switchOn();
