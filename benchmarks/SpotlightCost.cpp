@@ -19,6 +19,7 @@
 #include <iostream>
 #include <memory>
 #include <stdexcept>
+#include <string>
 #include <thread>
 
 using namespace quillon;
@@ -52,7 +53,8 @@ public:
     test::InputDriver& input() { return m_input; }
 
     /// Waits until the spotlight stands that `switchOn` brings, in one of so many tries.
-    void awaitSpotlight(const std::function<void()>& switchOn, int tries = 1) {
+    void awaitSpotlight(const std::string& name, const std::function<void()>& switchOn,
+                        int tries = 1) {
         const auto before = seenFarAway();
         const auto appears = [&] {
             switchOn();
@@ -60,7 +62,7 @@ public:
         };
         while (!appears()) {
             if (--tries == 0) {
-                throw std::runtime_error("no spotlight appears");
+                throw std::runtime_error("no spotlight of " + name + " appears");
             }
         }
         std::this_thread::sleep_for(kTimeToSettle);
@@ -93,7 +95,7 @@ private:
 double costOfOwn(const test::VirtualDesktop::Options& screen, int moves) {
     Scene scene(screen);
     test::Program program(scene.desktop());
-    scene.awaitSpotlight([&] { scene.input().chord({"Super_L", "Shift_L", "l"}); });
+    scene.awaitSpotlight("quillon-mark", [&] { scene.input().chord({"Super_L", "Shift_L", "l"}); });
     return scene.costOfMove(program.process().pid(), moves);
 }
 
@@ -101,7 +103,8 @@ double costOfProjecteur(const test::VirtualDesktop::Options& screen, int moves) 
     Scene scene(screen);
     Projecteur projecteur(scene.desktop());
     // Now and then it takes its first order without doing anything.
-    scene.awaitSpotlight([&] { projecteur.switchOn(); }, kTriesOfProjecteur);
+    scene.awaitSpotlight(
+        "projecteur", [&] { projecteur.switchOn(); }, kTriesOfProjecteur);
     return scene.costOfMove(projecteur.process(), moves);
 }
 
