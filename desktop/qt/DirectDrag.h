@@ -24,8 +24,8 @@ namespace quillon::desktop {
 /// 3. so does the next motion, and with its delivery the short way is open again;
 /// 4. the release ends the drag.
 ///
-/// A motion comes twice, of the pointer and of the device that moves it; the toolkit would drop the
-/// second, and so does this.
+/// Where a motion still comes twice, of the pointer and of the device that moves it, the toolkit
+/// would drop the second, and so does this.
 class DirectDrag : public QAbstractNativeEventFilter {
 public:
     /// Takes a place in coordinates of the widget.

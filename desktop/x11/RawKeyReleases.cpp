@@ -1,8 +1,7 @@
 #include "desktop/x11/RawKeyReleases.h"
 
+#include "desktop/x11/PointerMotion.h"
 #include "desktop/x11/XcbHandles.h"
-
-#include <xcb/xinput.h>
 
 namespace quillon::desktop {
 
@@ -10,16 +9,15 @@ namespace {
 
 constexpr std::uint32_t kNone = 0;
 
-std::uint8_t inputExtension(xcb_connection_t* connection) {
-    const auto* extension = xcb_get_extension_data(connection, &xcb_input_id);
-    if (!extension || extension->present == 0) {
-        return 0;
+/// Only who names a version hears what happens while the keyboard is grabbed. A toolkit may have
+/// named a later one on this connection, which then stands.
+std::uint8_t extensionForEverybody(xcb_connection_t* connection) {
+    const std::uint8_t extension = inputExtension(connection);
+    if (extension != 0) {
+        const auto version = xcb_input_xi_query_version(connection, 2, 2);
+        xcb_discard_reply(connection, version.sequence);
     }
-    // Only who names a version hears what happens while the keyboard is grabbed. A toolkit may have
-    // named a later one on this connection, which then stands.
-    const auto version = xcb_input_xi_query_version(connection, 2, 2);
-    xcb_discard_reply(connection, version.sequence);
-    return extension->major_opcode;
+    return extension;
 }
 
 } // namespace
@@ -27,7 +25,7 @@ std::uint8_t inputExtension(xcb_connection_t* connection) {
 RawKeyReleases::RawKeyReleases(xcb_connection_t* connection, xcb_window_t root)
     : m_connection(connection)
     , m_root(root)
-    , m_extension(inputExtension(connection)) {}
+    , m_extension(extensionForEverybody(connection)) {}
 
 RawKeyReleases::~RawKeyReleases() {
     if (!m_awaited.empty()) {

@@ -39,6 +39,14 @@ protected:
         widths.insert(widths.end(), later.begin(), later.end());
         return widths;
     }
+    /// The strokes below a broad one, with which the layer is painted to the end.
+    StrokeList belowBroad() {
+        const StrokeList below = pile(1);
+        StrokeList strokes = below;
+        strokes.append(broad);
+        drawnBy(strokes);
+        return below;
+    }
     int stepsToTheEnd() {
         int steps = 0;
         for (; layer.isBehind(); ++steps) {
@@ -208,20 +216,14 @@ TEST_F(FinishedLayer, the_old_picture_stays_until_the_new_one_is_whole) {
 }
 
 TEST_F(FinishedLayer, a_large_picture_is_shown_in_small_pieces_from_the_top) {
-    const StrokeList before = pile(1);
-    StrokeList strokes = before;
-    strokes.append(broad);
-    drawnBy(strokes);
+    const StrokeList before = belowBroad();
     EXPECT_TRUE(drawnAtOnceBy(before).empty());
     graphics.drawn.clear();
     expectPiecesOf(bandOfBroad, pieces());
 }
 
 TEST_F(FinishedLayer, a_piece_is_brought_into_the_bitmap_no_sooner_than_it_is_shown) {
-    const StrokeList before = pile(1);
-    StrokeList strokes = before;
-    strokes.append(broad);
-    drawnBy(strokes);
+    const StrokeList before = belowBroad();
     layer.update(before, {});
     while (layer.isBehind()) {
         graphics.drawn.clear();
@@ -236,14 +238,11 @@ TEST_F(FinishedLayer, a_piece_is_brought_into_the_bitmap_no_sooner_than_it_is_sh
 }
 
 TEST_F(FinishedLayer, a_stroke_drawn_while_a_picture_is_brought_over_is_left_alone_by_it) {
-    const StrokeList before = pile(1);
-    StrokeList strokes = before;
-    strokes.append(broad);
-    drawnBy(strokes);
+    const StrokeList before = belowBroad();
     layer.update(before, {});
     const Damage first = layer.repaintStep();
     ASSERT_TRUE(layer.isBehind());
-    strokes = before;
+    StrokeList strokes = before;
     strokes.append(freehand({{500, 200}, {500, 600}}, DrawingTool::pen, 9));
     EXPECT_EQ(drawnAtOnceBy(strokes), Widths{9});
     EXPECT_FALSE(first.intersects({499, 399, 2, 2}));
