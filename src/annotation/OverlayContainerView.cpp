@@ -63,8 +63,14 @@ void OverlayContainerView::observeNotifications() {
             center.addObserver(name, [action](const Notification&) { action(); }));
     };
     observe(NotificationName::clearAnnotations, [this] { clearAllAnnotations(); });
-    observe(NotificationName::undoAnnotation, [this] { m_drawingState.undo(); });
-    observe(NotificationName::redoAnnotation, [this] { m_drawingState.redo(); });
+    observe(NotificationName::undoAnnotation, [this] {
+        m_drawingState.undo();
+        m_toolbar.followHistory();
+    });
+    observe(NotificationName::redoAnnotation, [this] {
+        m_drawingState.redo();
+        m_toolbar.followHistory();
+    });
     for (const auto name : {NotificationName::toolChanged, NotificationName::colorChanged,
                             NotificationName::lineWidthChanged}) {
         observe(name, [this] { m_drawingState.cancelCurrentStroke(); });

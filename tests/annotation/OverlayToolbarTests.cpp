@@ -1,4 +1,5 @@
 #include "annotation/OverlayTest.h"
+#include "model/NotificationNames.h"
 
 #include <gtest/gtest.h>
 
@@ -48,6 +49,17 @@ TEST_F(OverlayToolbar, it_knows_of_a_change_of_the_history_before_the_next_updat
     control(10).button.action();
     undoControl().button.action();
     EXPECT_FALSE(redoControl().isDisabled);
+}
+
+TEST_F(OverlayToolbar, it_knows_of_an_undo_from_elsewhere_before_the_next_update) {
+    annotate();
+    drag({10, 10}, {50, 50});
+    post(NotificationName::undoAnnotation);
+    EXPECT_TRUE(undoControl().isDisabled);
+    EXPECT_FALSE(redoControl().isDisabled);
+    post(NotificationName::redoAnnotation);
+    EXPECT_FALSE(undoControl().isDisabled);
+    EXPECT_TRUE(redoControl().isDisabled);
 }
 
 TEST_F(OverlayToolbar, one_that_comes_later_knows_the_history_at_once) {
