@@ -18,10 +18,11 @@ struct Layer {
     std::string_view chiefHeader;
 };
 
-constexpr std::array<Layer, 10> kLayers{{
+constexpr std::array<Layer, 11> kLayers{{
     {"foundation", 0, ""},
     {"platform", 1, ""},
     {"model", 2, ""},
+    {"raster", 2, ""},
     {"annotation", 3, "annotation/AnnotationCanvas.h"},
     {"shortcuts", 3, "shortcuts/HotkeyManager.h"},
     {"toolbar", 3, "toolbar/FloatingToolbarView.h"},

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "raster/Flattening.h"
+#include "raster/PixelCanvas.h"
+
+#include <array>
+#include <cstddef>
+
+namespace quillon {
+
+/// How far the centre of each pixel in a small area is from the nearest of some lines. Distances
+/// are kept as their squares, in device pixels. A value depends on the pixel and the lines alone,
+/// not on the area or the order of the lines.
+class DistanceField {
+public:
+    /// The largest width and height of the area.
+    static constexpr int side = 64;
+
+    /// No line is near.
+    explicit DistanceField(const PixelRect& area);
+
+    /// Takes a line into account. Only what is nearer to it than `reach` is sure to be looked at.
+    void add(const LinePiece& line, float reach);
+
+    const PixelRect& area() const { return m_area; }
+
+    /// The pixels of a row that were looked at: from `first` to `last`, the latter not included,
+    /// counted from the left of the area.
+    struct Span {
+        int first = side;
+        int last = 0;
+    };
+    /// Rows are counted from the top of the area.
+    Span span(int row) const { return m_spans[static_cast<std::size_t>(row)]; }
+    /// The squares of a row, from the left of the area on.
+    const float* squares(int row) const { return m_squares.data() + row * m_rowLength; }
+
+private:
+    /// So many neighbours are computed in one go.
+    static constexpr int kBlock = 4;
+
+    PixelRect m_area;
+    int m_rowLength;
+    std::array<Span, side> m_spans;
+    alignas(32) std::array<float, std::size_t{side} * side> m_squares;
+};
+
+} // namespace quillon
