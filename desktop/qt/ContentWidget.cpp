@@ -6,13 +6,16 @@
 #include "desktop/qt/TextFieldWidget.h"
 #include "desktop/x11/PointerSelection.h"
 #include "desktop/x11/XcbHandles.h"
+#include "raster/PixelPainting.h"
 
 #include <QBackingStore>
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPaintEngine>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QRgba64>
 #include <QWindow>
 #include <QtMath>
 
@@ -48,7 +51,7 @@ ContentWidget::ContentWidget(xcb_connection_t* connection, std::function<void()>
     , m_directDrag(*this, inputExtension(connection), [this](QPointF place) { dragTo(place); })
     , m_directPainting(
           *this, connection,
-          [this](QPainter& painter, const QRect& rect) { paintContent(painter, rect); })
+          [this](const PixelCanvas& canvas, const QRect& rect) { paintContent(canvas, rect); })
     , m_stamped(connection)
     , m_onPress(std::move(onPress)) {
     setAttribute(Qt::WA_TranslucentBackground);
@@ -156,13 +159,23 @@ void ContentWidget::paintEvent(QPaintEvent* event) {
 }
 
 void ContentWidget::paintRegion(QPainter& painter, const QRegion& region) {
+    QPaintDevice* const device = painter.paintEngine()->paintDevice();
+    const bool isOnStore = backingStore() && device == backingStore()->paintDevice();
+    const auto canvas = isOnStore && isComposited() ? canvasOf(*device) : std::nullopt;
     for (const QRect& rect : region) {
-        if (isComposited()) {
-            painter.setClipRect(rect);
-            paintContent(painter, rect);
-        } else {
-            paintOutlined(painter, rect);
+        if (canvas) {
+            paintContent(*canvas, rect);
+            continue;
         }
+        QImage picture = painted(rect);
+        if (m_inkMask) {
+            m_inkMask->replace(devicePixels(fromQRectF(rect), devicePixelRatio()).topLeft(),
+                               picture);
+            // The server would show what is left of a translucent colour, as if it lay on black.
+            picture.convertTo(QImage::Format_RGB32);
+        }
+        picture.setDevicePixelRatio(devicePixelRatio());
+        painter.drawImage(rect.topLeft(), picture);
     }
 }
 
@@ -194,7 +207,7 @@ bool ContentWidget::isUnderChild(const QRegion& region) const {
 
 bool ContentWidget::putStamped(QBackingStore& store, const QRegion& region) {
     const auto picture = m_content->rootView->stampedPicture();
-    if (!picture || m_backgroundColor.isValid() || !premultipliedImage(store)) {
+    if (!picture || m_backgroundColor.isValid() || !canvasOf(*store.paintDevice())) {
         return false;
     }
     QRegion pixels;
@@ -210,29 +223,23 @@ void ContentWidget::display() {
     }
 }
 
-void ContentWidget::paintContent(QPainter& painter, const QRect& rect) {
+void ContentWidget::paintContent(const PixelCanvas& canvas, const QRect& rect) {
+    const CGFloat scale = devicePixelRatio();
+    const QRect pixels = devicePixels(fromQRectF(rect), scale);
     if (m_backgroundColor.isValid()) {
-        painter.fillRect(rect, m_backgroundColor);
+        fillPixels(canvas.part(toPixelRect(pixels)),
+                   m_backgroundColor.rgba64().premultiplied().toArgb32(), BlendMode::normal);
     }
-    QtGraphicsContext context(painter, fromQRectF(rect), devicePixelRatio());
+    QtGraphicsContext context(canvas, pixels, scale);
     m_content->rootView->paint(context, fromQRectF(rect));
 }
 
-void ContentWidget::paintOutlined(QPainter& painter, const QRect& rect) {
-    const CGFloat scale = devicePixelRatio();
-    const QRect pixels = devicePixels(fromQRectF(rect), scale);
+QImage ContentWidget::painted(const QRect& rect) {
+    const QRect pixels = devicePixels(fromQRectF(rect), devicePixelRatio());
     QImage picture(pixels.size(), QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
-    QPainter into(&picture);
-    into.scale(scale, scale);
-    into.translate(-rect.topLeft());
-    paintContent(into, rect);
-    into.end();
-    m_inkMask->replace(pixels.topLeft(), picture);
-    // The server would show what is left of a translucent colour, as if it lay on black.
-    picture.convertTo(QImage::Format_RGB32);
-    picture.setDevicePixelRatio(scale);
-    painter.drawImage(rect.topLeft(), picture);
+    paintContent(canvasOf(picture, pixels.topLeft()), rect);
+    return picture;
 }
 
 void ContentWidget::tellOutline() {

@@ -95,8 +95,9 @@ private:
     /// Puts a picture that need not be painted on the screen; false when that cannot be done.
     bool putStamped(QBackingStore& store, const QRegion& region);
     void paintRegion(QPainter& painter, const QRegion& region);
-    void paintContent(QPainter& painter, const QRect& rect);
-    void paintOutlined(QPainter& painter, const QRect& rect);
+    void paintContent(const PixelCanvas& canvas, const QRect& rect);
+    /// A picture of the content in its own device pixels.
+    QImage painted(const QRect& rect);
     void tellOutline();
 
     xcb_connection_t* m_connection;

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "desktop/x11/PixelUpload.h"
+#include "raster/PixelCanvas.h"
 
-#include <QImage>
-#include <QPainter>
 #include <QRegion>
 
 #include <functional>
@@ -13,19 +12,14 @@ class QWidget;
 
 namespace quillon::desktop {
 
-/// The image in which a store keeps its picture, if it does so in the window's own format; else
-/// null.
-QImage* premultipliedImage(QBackingStore& store);
-
 /// Brings small parts of a widget's picture to the screen by the shortest way: they are painted
 /// into the widget's backing store and go from there straight into its window, each in one request.
 /// The widget system would first go through all that could lie there, and put the whole bounds of
 /// several parts.
 class DirectPainting {
 public:
-    /// Paints what stands in the rectangle, in points of the widget, over full transparency. Leaves
-    /// the painter's transform as it was.
-    using Paint = std::function<void(QPainter&, const QRect&)>;
+    /// Paints what stands in the rectangle, in points of the widget, over full transparency.
+    using Paint = std::function<void(const PixelCanvas&, const QRect&)>;
 
     /// `connection` is the toolkit's; with none, nothing can be put.
     DirectPainting(const QWidget& widget, xcb_connection_t* connection, Paint paint);
@@ -36,17 +30,9 @@ public:
     bool put(QBackingStore& store, const QRegion& region);
 
 private:
-    void follow(QImage& picture);
-    void paint(const QRect& rect);
-    void clear(const QRect& pixels);
-
     const QWidget& m_widget;
     PixelUpload m_upload;
     Paint m_paint;
-    /// The store's own pixels, and a painter that stays open on them: to open one costs as much as
-    /// to paint a segment.
-    QImage m_pixels;
-    QPainter m_painter;
 };
 
 } // namespace quillon::desktop

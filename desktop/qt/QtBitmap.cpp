@@ -34,18 +34,11 @@ GraphicsContext& QtBitmap::beginPainting(std::span<const CGRect> clip) {
         region += devicePixels(rect, m_scale);
     }
     region &= m_image.rect();
-    const QRect pixels = region.boundingRect();
-    m_painter.emplace(&m_image);
-    m_painter->setClipRegion(region);
-    m_painter->scale(m_scale, m_scale);
-    const QRectF points(pixels.x() / m_scale, pixels.y() / m_scale, pixels.width() / m_scale,
-                        pixels.height() / m_scale);
-    return m_context.emplace(*m_painter, fromQRectF(points), m_scale);
+    return m_context.emplace(canvasOf(m_image), region, m_scale);
 }
 
 void QtBitmap::endPainting() {
     m_context.reset();
-    m_painter.reset();
 }
 
 } // namespace quillon::desktop

@@ -4,7 +4,6 @@
 #include "platform/Bitmap.h"
 
 #include <QImage>
-#include <QPainter>
 
 #include <optional>
 #include <span>
@@ -30,7 +29,6 @@ private:
     CGSize m_size;
     CGFloat m_scale;
     QImage m_image;
-    std::optional<QPainter> m_painter;
     std::optional<QtGraphicsContext> m_context;
 };
 

@@ -8,6 +8,12 @@
 
 namespace quillon::desktop {
 
+namespace {
+
+constexpr qsizetype kBytesPerPixel = sizeof(std::uint32_t);
+
+} // namespace
+
 QColor toQColor(const Color& color) {
     const auto parts = color.resolved();
     const auto clamped = [](double part) { return static_cast<float>(std::clamp(part, 0.0, 1.0)); };
@@ -54,6 +60,32 @@ QRect devicePixels(const CGRect& rect, CGFloat scale) {
     const auto high = [scale](CGFloat edge) { return qCeil(edge * scale - 1e-6); };
     return QRect(QPoint(low(rect.minX()), low(rect.minY())),
                  QPoint(high(rect.maxX()) - 1, high(rect.maxY()) - 1));
+}
+
+PixelCanvas canvasOf(QImage& image, QPoint corner) {
+    return {toPixelRect({corner, image.size()}), reinterpret_cast<std::uint32_t*>(image.bits()),
+            image.bytesPerLine() / kBytesPerPixel};
+}
+
+PixelPicture pictureOf(const QImage& image, QPoint corner) {
+    return {toPixelRect({corner, image.size()}),
+            reinterpret_cast<const std::uint32_t*>(image.constBits()),
+            image.bytesPerLine() / kBytesPerPixel};
+}
+
+QImage imageOf(const PixelCanvas& canvas) {
+    return QImage(reinterpret_cast<uchar*>(canvas.firstPixel), canvas.place.width(),
+                  canvas.place.height(), canvas.rowLength * kBytesPerPixel,
+                  QImage::Format_ARGB32_Premultiplied);
+}
+
+std::optional<PixelCanvas> canvasOf(QPaintDevice& device) {
+    if (device.devType() != QInternal::Image) {
+        return std::nullopt;
+    }
+    auto& image = static_cast<QImage&>(device);
+    return image.format() == QImage::Format_ARGB32_Premultiplied ? std::optional(canvasOf(image))
+                                                                 : std::nullopt;
 }
 
 xcb_rectangle_t toXRectangle(const QRect& pixels) {

@@ -5,51 +5,98 @@
 #include "desktop/qt/QtConversions.h"
 #include "desktop/qt/QtLayer.h"
 #include "platform/CGImage.h"
+#include "raster/Blending.h"
+#include "raster/InkPainting.h"
+#include "raster/PixelPainting.h"
 
 #include <QFontMetricsF>
 
+#include <utility>
+
 namespace quillon::desktop {
 
-QtGraphicsContext::QtGraphicsContext(QPainter& painter, const CGRect& clip, CGFloat scale)
-    : m_painter(painter)
-    , m_clip(clip)
+namespace {
+
+QPainter::CompositionMode compositionMode(BlendMode mode) {
+    return mode == BlendMode::plusLighter ? QPainter::CompositionMode_Plus
+                                          : QPainter::CompositionMode_SourceOver;
+}
+
+std::uint32_t wholeOpacity(double opacity) {
+    return static_cast<std::uint32_t>(qRound(opacity * opaqueAlpha));
+}
+
+} // namespace
+
+QtGraphicsContext::QtGraphicsContext(const PixelCanvas& canvas, QRegion clip, CGFloat scale)
+    : m_canvas(canvas)
+    , m_clip(std::move(clip))
     , m_scale(scale) {
-    m_painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF bounds = m_clip.boundingRect();
+    m_clipBounds = {bounds.x() / scale, bounds.y() / scale, bounds.width() / scale,
+                    bounds.height() / scale};
 }
 
 QtGraphicsContext::~QtGraphicsContext() = default;
 
+QPainter& QtGraphicsContext::painter() {
+    if (!m_painter) {
+        m_image = imageOf(m_canvas);
+        m_painter.emplace(&m_image);
+        m_painter->translate(-m_canvas.place.left, -m_canvas.place.top);
+        m_painter->setClipRegion(m_clip);
+        m_painter->scale(m_scale, m_scale);
+        m_painter->setRenderHint(QPainter::Antialiasing);
+    }
+    m_painter->setCompositionMode(compositionMode(m_blendMode));
+    m_painter->setOpacity(m_opacity);
+    return *m_painter;
+}
+
 void QtGraphicsContext::setBlendMode(BlendMode mode) {
-    m_painter.setCompositionMode(mode == BlendMode::plusLighter
-                                     ? QPainter::CompositionMode_Plus
-                                     : QPainter::CompositionMode_SourceOver);
+    m_blendMode = mode;
 }
 
 void QtGraphicsContext::setOpacity(double opacity) {
-    m_painter.setOpacity(opacity);
+    m_opacity = opacity;
 }
 
 void QtGraphicsContext::fill(const Path& path, const Color& color) {
-    m_painter.fillPath(toQPainterPath(path), toQColor(color));
+    painter().fillPath(toQPainterPath(path), toQColor(color));
 }
 
 void QtGraphicsContext::fillEvenOdd(const Path& path, const Color& color) {
     QPainterPath outlines = toQPainterPath(path);
     outlines.setFillRule(Qt::OddEvenFill);
-    m_painter.fillPath(outlines, toQColor(color));
+    painter().fillPath(outlines, toQColor(color));
+}
+
+template <typename Body>
+void QtGraphicsContext::forEachPart(const PixelRect& rect, Body&& body) {
+    for (const QRect& part : m_clip) {
+        const PixelCanvas canvas = m_canvas.part(toPixelRect(part)).part(rect);
+        if (!canvas.place.isEmpty()) {
+            body(canvas);
+        }
+    }
 }
 
 void QtGraphicsContext::stroke(const Path& path, const Color& color, const StrokeStyle& style) {
-    m_painter.strokePath(toQPainterPath(path), toQPen(color, style, m_scale));
+    if (style.lineCap != LineCap::round || style.lineJoin != LineJoin::round) {
+        painter().strokePath(toQPainterPath(path), toQPen(color, style, m_scale));
+        return;
+    }
+    const Ink ink{premultipliedPixel(color, m_opacity), style.lineWidth, m_blendMode};
+    forEachPart(m_canvas.place,
+                [&](const PixelCanvas& canvas) { paintInk(path, ink, m_scale, canvas); });
 }
 
 void QtGraphicsContext::strokeWithShadow(const Path& path, const Color& color,
                                          const StrokeStyle& style, const Shadow& shadow) {
-    const QPen pen = toQPen(color, style, m_scale);
-    QPainterPathStroker stroker(pen);
+    QPainterPathStroker stroker(toQPen(color, style, m_scale));
     const QPainterPath outline = stroker.createStroke(toQPainterPath(path));
     drawShadow(outline.translated(shadow.offset.width, shadow.offset.height), shadow);
-    m_painter.strokePath(toQPainterPath(path), pen);
+    stroke(path, color, style);
 }
 
 void QtGraphicsContext::drawShadow(const QPainterPath& outline, const Shadow& shadow) {
@@ -64,8 +111,8 @@ void QtGraphicsContext::drawShadow(const QPainterPath& outline, const Shadow& sh
     painter.scale(m_scale, m_scale);
     painter.fillPath(outline, Qt::black);
     painter.end();
-    drawPixels(tinted(blurred(picture, deviation * m_scale), toQColor(shadow.color)),
-               picture.rect(), pixels.topLeft());
+    const QImage blurry = tinted(blurred(picture, deviation * m_scale), toQColor(shadow.color));
+    drawPixels(pictureOf(blurry, pixels.topLeft()), toPixelRect(pixels));
 }
 
 void QtGraphicsContext::drawText(const Text& text, CGPoint at, Anchor anchor) {
@@ -76,24 +123,19 @@ void QtGraphicsContext::drawText(const Text& text, CGPoint at, Anchor anchor) {
     if (anchor == Anchor::center) {
         origin -= QPointF(metrics.horizontalAdvance(string), metrics.height()) / 2;
     }
-    m_painter.setFont(font);
-    m_painter.setPen(toQColor(text.color));
-    m_painter.drawText(origin, string);
+    painter().setFont(font);
+    painter().setPen(toQColor(text.color));
+    painter().drawText(origin, string);
 }
 
 void QtGraphicsContext::clear(const CGRect& rect) {
-    const auto mode = m_painter.compositionMode();
-    m_painter.setCompositionMode(QPainter::CompositionMode_Clear);
-    m_painter.setRenderHint(QPainter::Antialiasing, false);
-    m_painter.fillRect(toQRectF(rect), Qt::transparent);
-    m_painter.setRenderHint(QPainter::Antialiasing);
-    m_painter.setCompositionMode(mode);
+    forEachPart(toPixelRect(devicePixels(rect, m_scale)), clearPixels);
 }
 
 void QtGraphicsContext::fillRect(const CGRect& rect, const Color& color) {
-    m_painter.setRenderHint(QPainter::Antialiasing, false);
-    m_painter.fillRect(toQRectF(rect), toQColor(color));
-    m_painter.setRenderHint(QPainter::Antialiasing);
+    const std::uint32_t pixel = premultipliedPixel(color, m_opacity);
+    forEachPart(toPixelRect(devicePixels(rect, m_scale)),
+                [&](const PixelCanvas& canvas) { fillPixels(canvas, pixel, m_blendMode); });
 }
 
 void QtGraphicsContext::draw(const Bitmap& bitmap, const CGRect& rect) {
@@ -101,30 +143,24 @@ void QtGraphicsContext::draw(const Bitmap& bitmap, const CGRect& rect) {
 }
 
 void QtGraphicsContext::draw(const Bitmap& bitmap, const CGRect& rect, CGPoint origin) {
-    const QImage& image = static_cast<const QtBitmap&>(bitmap).image();
     const QPoint corner(qRound(origin.x * m_scale), qRound(origin.y * m_scale));
-    const QRect pixels = devicePixels(rect, m_scale).intersected(image.rect().translated(corner));
-    drawPixels(image, pixels.translated(-corner), pixels.topLeft());
+    drawPixels(pictureOf(static_cast<const QtBitmap&>(bitmap).image(), corner),
+               toPixelRect(devicePixels(rect, m_scale)));
 }
 
 void QtGraphicsContext::draw(const CGImage& image, const CGRect& rect) {
     const PixelRows& rows = *image.rows;
     const QImage pixels(reinterpret_cast<const uchar*>(rows.pixels.data()), rows.width, rows.height,
                         QImage::Format_RGB32);
-    m_painter.setRenderHint(QPainter::Antialiasing, false);
-    m_painter.drawImage(toQRectF(rect), pixels, toQRectF(image.part));
-    m_painter.setRenderHint(QPainter::Antialiasing);
+    painter().setRenderHint(QPainter::Antialiasing, false);
+    painter().drawImage(toQRectF(rect), pixels, toQRectF(image.part));
+    painter().setRenderHint(QPainter::Antialiasing);
 }
 
-void QtGraphicsContext::drawPixels(const QImage& image, const QRect& from, QPoint to) {
-    if (from.isEmpty()) {
-        return;
-    }
-    // With points and pixels brought to the same size the painter copies rows instead of sampling.
-    const QTransform inPoints = m_painter.worldTransform();
-    m_painter.setWorldTransform(QTransform::fromScale(1 / m_scale, 1 / m_scale) * inPoints);
-    m_painter.drawImage(to, image, from);
-    m_painter.setWorldTransform(inPoints);
+void QtGraphicsContext::drawPixels(const PixelPicture& picture, const PixelRect& part) {
+    forEachPart(part, [&](const PixelCanvas& canvas) {
+        quillon::drawPixels(picture, canvas, wholeOpacity(m_opacity), m_blendMode);
+    });
 }
 
 GraphicsContext& QtGraphicsContext::beginLayer() {

@@ -1,25 +1,31 @@
 #pragma once
 
 #include "platform/GraphicsContext.h"
+#include "raster/PixelCanvas.h"
 
+#include <QImage>
 #include <QPainter>
 #include <QPainterPath>
+#include <QRegion>
 
+#include <cstdint>
 #include <memory>
+#include <optional>
 
 namespace quillon::desktop {
 
 class QtLayer;
 
-/// Carries out drawing with a QPainter. The painter's coordinates are points, its clip stands.
+/// Draws into pixels. Lines with round ends, bitmaps and whole pixels it draws by itself; for
+/// everything else it opens a QPainter, which costs more than many a line.
 class QtGraphicsContext : public GraphicsContext {
 public:
-    /// `clip` is the part worth painting, in points; `scale` is the number of device pixels to a
-    /// point.
-    QtGraphicsContext(QPainter& painter, const CGRect& clip, CGFloat scale);
+    /// Draws nowhere but in `clip`, which is made of the canvas's device pixels; `scale` is the
+    /// number of device pixels to a point.
+    QtGraphicsContext(const PixelCanvas& canvas, QRegion clip, CGFloat scale);
     ~QtGraphicsContext() override;
 
-    CGRect clipBounds() const override { return m_clip; }
+    CGRect clipBounds() const override { return m_clipBounds; }
     void setBlendMode(BlendMode mode) override;
     void setOpacity(double opacity) override;
     void fill(const Path& path, const Color& color) override;
@@ -41,14 +47,23 @@ protected:
 private:
     friend class QtLayer;
 
+    /// In points, with its clip, its blend mode and its opacity up to date.
+    QPainter& painter();
     void drawShadow(const QPainterPath& outline, const Shadow& shadow);
-    /// Draws pixels of an image at device pixels of the painter, one to one.
-    void drawPixels(const QImage& image, const QRect& from, QPoint to);
+    void drawPixels(const PixelPicture& picture, const PixelRect& part);
+    /// Calls `body` with the canvas of each rectangle of the clip, as far as it lies in `rect`.
+    template <typename Body>
+    void forEachPart(const PixelRect& rect, Body&& body);
 
-    QPainter& m_painter;
-    CGRect m_clip;
+    PixelCanvas m_canvas;
+    QRegion m_clip;
     CGFloat m_scale;
+    CGRect m_clipBounds;
+    BlendMode m_blendMode = BlendMode::normal;
+    double m_opacity = 1;
     std::unique_ptr<QtLayer> m_layer;
+    QImage m_image;
+    std::optional<QPainter> m_painter;
 };
 
 } // namespace quillon::desktop

@@ -15,16 +15,16 @@ QtLayer::~QtLayer() = default;
 
 void QtLayer::finish() {
     if (m_context) {
+        const PixelCanvas pixels = m_context->m_canvas;
         m_context.reset();
-        m_painter.reset();
-        m_receiver.drawPixels(m_image, m_image.rect(), m_pixels.topLeft());
+        m_receiver.drawPixels(pixels, pixels.place);
         return;
     }
     if (m_loneDraw) {
-        const double opacity = m_receiver.m_painter.opacity();
-        m_receiver.m_painter.setOpacity(opacity * m_opacityOfLoneDraw);
+        const double opacity =
+            std::exchange(m_receiver.m_opacity, m_receiver.m_opacity * m_opacityOfLoneDraw);
         m_loneDraw(m_receiver);
-        m_receiver.m_painter.setOpacity(opacity);
+        m_receiver.m_opacity = opacity;
     }
 }
 
@@ -106,14 +106,11 @@ void QtLayer::perform(Draw draw) {
 
 QtGraphicsContext& QtLayer::ownContext() {
     if (!m_context) {
-        const CGFloat scale = m_receiver.m_scale;
-        m_pixels = devicePixels(m_receiver.clipBounds(), scale);
-        m_image = QImage(m_pixels.size(), QImage::Format_ARGB32_Premultiplied);
+        const QRect pixels = m_receiver.m_clip.boundingRect();
+        m_image = QImage(pixels.size(), QImage::Format_ARGB32_Premultiplied);
         m_image.fill(Qt::transparent);
-        m_painter.emplace(&m_image);
-        m_painter->translate(-m_pixels.topLeft());
-        m_painter->scale(scale, scale);
-        m_context = std::make_unique<QtGraphicsContext>(*m_painter, m_receiver.clipBounds(), scale);
+        m_context = std::make_unique<QtGraphicsContext>(canvasOf(m_image, pixels.topLeft()), pixels,
+                                                        m_receiver.m_scale);
         if (m_loneDraw) {
             m_context->setOpacity(m_opacityOfLoneDraw);
             std::exchange(m_loneDraw, nullptr)(*m_context);

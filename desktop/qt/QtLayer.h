@@ -3,11 +3,9 @@
 #include "platform/GraphicsContext.h"
 
 #include <QImage>
-#include <QPainter>
 
 #include <functional>
 #include <memory>
-#include <optional>
 
 namespace quillon::desktop {
 
@@ -58,9 +56,7 @@ private:
     double m_opacity = 1;
     Draw m_loneDraw;
     double m_opacityOfLoneDraw = 1;
-    QRect m_pixels;
     QImage m_image;
-    std::optional<QPainter> m_painter;
     std::unique_ptr<QtGraphicsContext> m_context;
 };
 

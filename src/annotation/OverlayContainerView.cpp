@@ -228,9 +228,7 @@ void OverlayContainerView::paint(GraphicsContext& context, const CGRect& rect) {
         m_pendingDamage.add(bringLiveLayerUpToDate());
     }
     if (m_whiteboardOpacity > 0) {
-        Path sheet;
-        sheet.addRect(rect);
-        context.fill(sheet, Color::white.opacity(kWhiteboardOpacity * m_whiteboardOpacity));
+        context.fillRect(rect, Color::white.opacity(kWhiteboardOpacity * m_whiteboardOpacity));
     }
     const int canvasCount = m_upperCanvas ? 2 : 1;
     for (int canvas = 0; canvas < canvasCount; ++canvas) {

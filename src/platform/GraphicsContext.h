@@ -65,6 +65,8 @@ public:
     virtual void fill(const Path& path, const Color& color) = 0;
     /// Fills what an odd number of the path's outlines goes round: a hole in a rectangle.
     virtual void fillEvenOdd(const Path& path, const Color& color) = 0;
+    /// With round caps and joins a pixel depends on nothing but its distance from the path: pieces
+    /// of a path can be left out wherever they are far enough, and the rest keeps its pixels.
     virtual void stroke(const Path& path, const Color& color, const StrokeStyle& style) = 0;
     /// The shadow first, the stroke over it.
     virtual void strokeWithShadow(const Path& path, const Color& color, const StrokeStyle& style,

@@ -6,6 +6,11 @@
 
 namespace quillon {
 
+void Path::append(Verb verb, std::initializer_list<CGPoint> points) {
+    m_verbs.push_back(verb);
+    m_points.insert(m_points.end(), points);
+}
+
 void Path::addRect(const CGRect& rect) {
     move({rect.minX(), rect.minY()});
     addLine({rect.maxX(), rect.minY()});

@@ -46,10 +46,7 @@ public:
     friend bool operator==(const Path&, const Path&) = default;
 
 private:
-    void append(Verb verb, std::initializer_list<CGPoint> points) {
-        m_verbs.push_back(verb);
-        m_points.insert(m_points.end(), points);
-    }
+    void append(Verb verb, std::initializer_list<CGPoint> points);
 
     std::vector<Verb> m_verbs;
     std::vector<CGPoint> m_points;

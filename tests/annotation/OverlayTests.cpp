@@ -38,7 +38,7 @@ TEST_F(Overlay, in_whiteboard_mode_every_stroke_is_seen_twice_over_a_white_sheet
     drag({10, 10}, {50, 50});
     const auto drawings = painted();
     ASSERT_EQ(drawings.size(), 3U);
-    EXPECT_EQ(drawings[0].kind, Drawing::Kind::fill);
+    EXPECT_EQ(drawings[0].kind, Drawing::Kind::fillRect);
     EXPECT_EQ(drawings[0].color, Color::white.opacity(0.9));
     EXPECT_EQ(drawings[1].kind, Drawing::Kind::bitmap);
     EXPECT_EQ(drawings[2].kind, Drawing::Kind::bitmap);
@@ -66,7 +66,7 @@ TEST_F(Overlay, the_stroke_in_progress_lies_over_all_finished_ones_of_its_canvas
     update();
     host.mainQueue.advance(1);
     update();
-    EXPECT_EQ(kinds(), (std::vector<Kind>{Kind::fill, Kind::bitmap, Kind::stroke, Kind::bitmap,
+    EXPECT_EQ(kinds(), (std::vector<Kind>{Kind::fillRect, Kind::bitmap, Kind::stroke, Kind::bitmap,
                                           Kind::stroke}));
 }
 

@@ -1,12 +1,13 @@
 #include "annotation/AnnotationCanvas.h"
 #include "annotation/PenRest.h"
 #include "annotation/StrokeRenderer.h"
+#include "annotation/StrokeWalk.h"
 #include "desktop/painting/PaintedPicture.h"
 #include "desktop/qt/QtGraphics.h"
+#include "raster/Blending.h"
 #include "support/FakeHost.h"
 
 #include <QGuiApplication>
-#include <QPainter>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -64,23 +65,18 @@ public:
 
     /// The plain walk: every segment of every stroke, over the whole screen, from nothing.
     QImage plainWalk(double whiteboardOpacity) {
-        const QImage finished = painted([&](GraphicsContext& context) {
-            drawStrokes(context, overlay.drawingState().strokes, host.graphics);
-        });
-        const QImage sheet = painted([&](GraphicsContext& context) {
-            Path path;
-            path.addRect({0, 0, kSize.width, kSize.height});
-            context.fill(path, Color::white.opacity(whiteboardOpacity));
-        });
+        QImage finished = blankPicture(kSize, m_scale);
+        QtGraphicsContext strokes(canvasOf(finished), finished.rect(), m_scale);
+        StrokeWalk(overlay.drawingState().strokes, {})
+            .goOn(strokes, host.graphics, everywhere(), {});
         QImage picture = blankPicture(kSize, m_scale);
-        QPainter painter(&picture);
-        painter.drawImage(0, 0, sheet);
+        QtGraphicsContext context(canvasOf(picture), picture.rect(), m_scale);
+        context.fillRect(context.clipBounds(), Color::white.opacity(whiteboardOpacity));
         for (int canvas = 0; canvas < (overlay.upperCanvas() ? 2 : 1); ++canvas) {
-            painter.drawImage(0, 0, finished);
+            drawPixels(pictureOf(finished), canvasOf(picture), opaqueAlpha, BlendMode::normal);
             if (const auto& live = overlay.drawingState().currentStroke.get()) {
-                drawOn(painter, [&](GraphicsContext& context) {
-                    drawStroke(context, *live, blendModeOf(live->tool), SegmentIndex(live->points));
-                });
+                drawStroke(context, *live, blendModeOf(live->tool), SegmentIndex(live->points),
+                           everywhere());
             }
         }
         return picture;
@@ -102,24 +98,6 @@ public:
     OverlayContainerView overlay{AppSettings::shared()};
 
 private:
-    /// Draws with a clip so wide that nothing is left out.
-    template <typename Body>
-    void drawOn(QPainter& painter, Body&& body) {
-        painter.save();
-        painter.scale(m_scale, m_scale);
-        QtGraphicsContext context(painter, {-1e6, -1e6, 2e6, 2e6}, m_scale);
-        body(context);
-        painter.restore();
-    }
-
-    template <typename Body>
-    QImage painted(Body&& body) {
-        QImage picture = blankPicture(kSize, m_scale);
-        QPainter painter(&picture);
-        drawOn(painter, body);
-        return picture;
-    }
-
     CGFloat m_scale;
     QImage m_screen;
 };

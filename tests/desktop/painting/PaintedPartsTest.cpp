@@ -116,13 +116,12 @@ private:
 
 class PaintedParts : public testing::TestWithParam<double> {
 protected:
-    /// Every segment, with a clip so wide that nothing is left out.
+    /// Every segment.
     QImage whole(const DrawingStroke& stroke) const {
         QImage picture = blankPicture(kSize, m_scale);
-        QPainter painter(&picture);
-        painter.scale(m_scale, m_scale);
-        QtGraphicsContext context(painter, {-1e6, -1e6, 2e6, 2e6}, m_scale);
-        drawStroke(context, stroke, blendModeOf(stroke.tool), SegmentIndex(stroke.points));
+        QtGraphicsContext context(canvasOf(picture), picture.rect(), m_scale);
+        drawStroke(context, stroke, blendModeOf(stroke.tool), SegmentIndex(stroke.points),
+                   everywhere());
         return picture;
     }
 

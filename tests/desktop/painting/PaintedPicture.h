@@ -1,10 +1,11 @@
 #pragma once
 
+#include "annotation/PaintArea.h"
 #include "desktop/qt/QtConversions.h"
 #include "desktop/qt/QtGraphicsContext.h"
+#include "raster/PixelPainting.h"
 
 #include <QImage>
-#include <QPainter>
 
 namespace quillon::desktop {
 
@@ -16,6 +17,11 @@ inline QImage blankPicture(CGSize size, CGFloat scale) {
     return picture;
 }
 
+/// An area so wide that nothing is left out.
+inline PaintArea everywhere() {
+    return PaintArea({-1e6, -1e6, 2e6, 2e6});
+}
+
 /// Paints `rect`, widened to device pixels, anew from nothing: `body` gets a context and the part
 /// that it is to paint.
 template <typename Body>
@@ -24,16 +30,10 @@ void paintAnew(QImage& picture, const CGRect& rect, CGFloat scale, Body&& body) 
     if (pixels.isEmpty()) {
         return;
     }
-    QPainter painter(&picture);
-    painter.setClipRect(pixels);
-    painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.fillRect(pixels, Qt::transparent);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    painter.scale(scale, scale);
-    const CGRect part{pixels.x() / scale, pixels.y() / scale, pixels.width() / scale,
-                      pixels.height() / scale};
-    QtGraphicsContext context(painter, part, scale);
-    body(context, part);
+    const PixelCanvas canvas = canvasOf(picture);
+    clearPixels(canvas.part(toPixelRect(pixels)));
+    QtGraphicsContext context(canvas, pixels, scale);
+    body(context, context.clipBounds());
 }
 
 /// The number of pixels in which two pictures differ, in that part of both.

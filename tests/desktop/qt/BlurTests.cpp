@@ -1,9 +1,8 @@
 #include "desktop/qt/Blur.h"
+#include "desktop/qt/QtConversions.h"
 #include "desktop/qt/QtGraphicsContext.h"
 
 #include <gtest/gtest.h>
-
-#include <QPainter>
 
 #include <cmath>
 
@@ -32,9 +31,7 @@ int alphaSum(const QImage& image) {
 /// A horizontal line through the middle of 100 points, 3 thick, with a red shadow below its blue.
 QImage lineWithShadow(const Color& line, const Color& shadow, qreal scale = 1) {
     QImage image = transparent(qRound(100 * scale));
-    QPainter painter(&image);
-    painter.scale(scale, scale);
-    QtGraphicsContext context(painter, {0, 0, 100, 100}, scale);
+    QtGraphicsContext context(canvasOf(image), image.rect(), scale);
     Path path;
     path.move({-50, 50.5});
     path.addLine({150, 50.5});
@@ -83,8 +80,7 @@ TEST(Shadow, it_fades_as_the_gaussian_of_half_its_radius_on_both_sides) {
 
 TEST(Shadow, it_stands_where_its_offset_moves_it) {
     QImage image = transparent(100);
-    QPainter painter(&image);
-    QtGraphicsContext context(painter, {0, 0, 100, 100}, 1);
+    QtGraphicsContext context(canvasOf(image), image.rect(), 1);
     Path path;
     path.move({-50, 30.5});
     path.addLine({150, 30.5});
@@ -110,8 +106,7 @@ TEST(Shadow, the_opacity_of_the_stroke_is_not_that_of_its_shadow) {
 
 TEST(Shadow, a_figure_of_no_size_has_none_to_speak_of) {
     QImage image = transparent(40);
-    QPainter painter(&image);
-    QtGraphicsContext context(painter, {0, 0, 40, 40}, 1);
+    QtGraphicsContext context(canvasOf(image), image.rect(), 1);
     Path path;
     path.addEllipse({20, 20, 0, 0});
     context.strokeWithShadow(path, Color::red, {.lineWidth = 3}, {Color::red, 4, {}});

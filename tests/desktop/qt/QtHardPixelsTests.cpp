@@ -1,10 +1,10 @@
+#include "desktop/qt/QtConversions.h"
 #include "desktop/qt/QtGraphicsContext.h"
 #include "platform/CGImage.h"
 
 #include <gtest/gtest.h>
 
 #include <QImage>
-#include <QPainter>
 
 #include <functional>
 
@@ -30,11 +30,8 @@ QImage painted(CGFloat scale, const std::function<void(GraphicsContext&)>& body)
     const int pixels = static_cast<int>(20 * scale);
     QImage picture(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.scale(scale, scale);
-    QtGraphicsContext context(painter, {0, 0, 20, 20}, scale);
+    QtGraphicsContext context(canvasOf(picture), picture.rect(), scale);
     body(context);
-    painter.end();
     return picture;
 }
 
