@@ -45,13 +45,6 @@ public:
     /// the very first point all the same, and the last one takes p2 for the missing p3.
     Segment segment(std::size_t index) const;
 
-    /// The place in which a curve ends exactly where it began. A host may join its ends there,
-    /// while a part of it has caps: who paints that place paints the curve as a whole.
-    std::optional<CGPoint> seam() const {
-        const bool isThere = m_points.size() > 2 && m_points.front() == m_points.back();
-        return isThere ? std::optional(point(0)) : std::nullopt;
-    }
-
     /// Appends segments `first` to `last`, the latter not included, as one run.
     void addSegments(std::size_t first, std::size_t last, Path& path) const;
 

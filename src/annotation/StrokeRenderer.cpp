@@ -83,19 +83,13 @@ std::size_t drawPath(GraphicsContext& context, std::span<const CodablePoint> poi
                      const Color& color, CGFloat lineWidth, const SegmentIndex& segments,
                      const PaintArea& area) {
     const FreehandCurve curve(points);
-    const CGFloat reach = inkReach(lineWidth);
     Path path;
     std::size_t drawn = 0;
-    const auto add = [&](std::size_t first, std::size_t past) {
-        curve.addSegments(first, past, path);
-        drawn += past - first;
-    };
-    const auto seam = curve.seam();
-    if (seam && area.meets(CGRect{seam->x, seam->y, 0, 0}.outset(reach))) {
-        add(0, curve.segmentCount());
-    } else {
-        segments.forEachRunNear(curve, area, reach, add);
-    }
+    segments.forEachRunNear(curve, area, inkReach(lineWidth),
+                            [&](std::size_t first, std::size_t past) {
+                                curve.addSegments(first, past, path);
+                                drawn += past - first;
+                            });
     if (!path.isEmpty()) {
         context.stroke(path, color, roundStyle(lineWidth));
     }

@@ -247,7 +247,7 @@ TEST(Rendering, strokes_outside_of_the_clip_are_left_out) {
     EXPECT_EQ(context.drawings.size(), 1U);
 }
 
-TEST(Rendering, a_curve_that_ends_where_it_began_is_drawn_as_a_whole_where_its_ends_meet) {
+TEST(Rendering, of_a_curve_that_ends_where_it_began_only_what_is_near_is_drawn) {
     const DrawingStroke loop =
         freehand({{0, 0}, {100, 0}, {200, 0}, {200, 200}, {0, 200}, {0, 100}, {0, 0}});
     const SegmentIndex segments(loop.points);
@@ -255,7 +255,8 @@ TEST(Rendering, a_curve_that_ends_where_it_began_is_drawn_as_a_whole_where_its_e
         RecordingContext context;
         return drawStroke(context, loop, BlendMode::normal, segments, PaintArea(rect));
     };
-    EXPECT_EQ(drawnIn({-2, -2, 4, 4}), 5U);
+    EXPECT_GT(drawnIn({-2, -2, 4, 4}), 1U) << "both ends";
+    EXPECT_LT(drawnIn({-2, -2, 4, 4}), 5U);
     EXPECT_GT(drawnIn({198, 198, 4, 4}), 0U);
     EXPECT_LT(drawnIn({198, 198, 4, 4}), 5U);
 }
