@@ -1,7 +1,6 @@
 #include "annotation/DirtyCells.h"
 
 #include <algorithm>
-#include <functional>
 #include <utility>
 
 namespace quillon {
@@ -47,28 +46,37 @@ bool DirtyCells::anyWord(const Block& block, Body&& body) const {
     return false;
 }
 
+void DirtyCells::setWord(std::size_t word, std::uint64_t bits) {
+    const auto wasUsed = m_words[word] != 0;
+    const auto isUsed = bits != 0;
+    m_wordsInUse += isUsed && !wasUsed ? 1 : 0;
+    m_wordsInUse -= wasUsed && !isUsed ? 1 : 0;
+    m_words[word] = bits;
+}
+
 void DirtyCells::add(const CGRect& rect) {
     anyWord(blockOver(rect), [this](std::size_t word, std::uint64_t bits) {
-        m_words[word] |= bits;
+        setWord(word, m_words[word] | bits);
         return false;
     });
 }
 
 void DirtyCells::add(const DirtyCells& other) {
-    std::ranges::transform(m_words, other.m_words, m_words.begin(), std::bit_or{});
+    for (std::size_t word = 0; word < m_words.size(); ++word) {
+        setWord(word, m_words[word] | other.m_words[word]);
+    }
 }
 
 void DirtyCells::remove(const DirtyCells& other) {
-    std::ranges::transform(m_words, other.m_words, m_words.begin(),
-                           [](std::uint64_t mine, std::uint64_t theirs) { return mine & ~theirs; });
+    for (std::size_t word = 0; word < m_words.size(); ++word) {
+        setWord(word, m_words[word] & ~other.m_words[word]);
+    }
 }
 
 void DirtyCells::keep(const DirtyCells& other) {
-    std::ranges::transform(m_words, other.m_words, m_words.begin(), std::bit_and{});
-}
-
-bool DirtyCells::isEmpty() const {
-    return std::ranges::all_of(m_words, [](std::uint64_t word) { return word == 0; });
+    for (std::size_t word = 0; word < m_words.size(); ++word) {
+        setWord(word, m_words[word] & other.m_words[word]);
+    }
 }
 
 bool DirtyCells::meets(const CGRect& rect) const {
@@ -97,7 +105,7 @@ std::vector<CGRect> DirtyCells::takeTile(std::size_t side) {
                 continue;
             }
             anyWord(tile, [this](std::size_t word, std::uint64_t bits) {
-                m_words[word] &= ~bits;
+                setWord(word, m_words[word] & ~bits);
                 return false;
             });
             return taken;

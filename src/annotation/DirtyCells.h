@@ -32,7 +32,7 @@ public:
     /// `rects` does.
     std::vector<CGRect> takeTile(std::size_t side);
 
-    bool isEmpty() const;
+    bool isEmpty() const { return m_wordsInUse == 0; }
     /// False only when `rect` shares no area with a dirty cell.
     bool meets(const CGRect& rect) const;
     /// Every cell is dirty with which `rect` shares an area.
@@ -49,6 +49,7 @@ private:
         std::size_t bottom = 0;
     };
 
+    void setWord(std::size_t word, std::uint64_t bits);
     Block blockOver(const CGRect& rect) const;
     /// Calls `body` with the number of each word that holds a cell of the block, and the bits that
     /// do; ends as soon as `body` answers true, and answers whether it did.
@@ -68,6 +69,8 @@ private:
     std::size_t m_wordsInRow;
     /// A bit for each cell, row by row.
     std::vector<std::uint64_t> m_words;
+    /// That hold a dirty cell.
+    std::size_t m_wordsInUse = 0;
 };
 
 } // namespace quillon
