@@ -31,7 +31,10 @@ ControlsWidget::ControlsWidget(const std::shared_ptr<ControlsView>& view, QWidge
     , m_subscription(view->objectWillChange.sink([this] { scheduleUpdate(); })) {}
 
 void ControlsWidget::place(QPointF center) {
-    move((center - QPointF(width(), height()) / 2).toPoint());
+    const QPoint corner = (center - QPointF(width(), height()) / 2).toPoint();
+    if (corner != pos()) {
+        move(corner);
+    }
 }
 
 void ControlsWidget::setComposited(bool composited) {
