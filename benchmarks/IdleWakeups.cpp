@@ -1,7 +1,7 @@
 // What a program costs that nobody uses at the moment: how often it wakes up, its time on the
 // processor, and its memory.
 //
-//     idle-wakeups [--rounds 2] [--seconds 30] [--rows]
+//     idle-wakeups [--rounds 3] [--seconds 30] [--rows]
 
 #include "benchmarks/Pens.h"
 #include "benchmarks/ProcessUsage.h"
@@ -47,6 +47,7 @@ public:
 
     const std::string& name() const { return m_name; }
     virtual pid_t process() = 0;
+    virtual bool isPeer() const { return true; }
     /// Whether it is the program of this project, with nothing switched on.
     virtual bool hasTargets() const { return false; }
 
@@ -70,6 +71,7 @@ public:
     }
 
     pid_t process() override { return m_program.process().pid(); }
+    bool isPeer() const override { return false; }
     bool hasTargets() const override { return m_isOff; }
 
     /// Switches a feature on or off by the last key of its shortcut.
@@ -159,32 +161,57 @@ std::vector<Make> peers() {
     return all;
 }
 
-/// One after the other: what two programs share counts for neither as its own.
-void measureMemory(Report& report, const std::vector<Make>& programs, int rounds) {
-    constexpr double megabyte = 1024;
-    for (const Make& make : programs) {
-        std::vector<double> resident;
-        std::vector<double> unique;
-        std::string name;
-        bool hasTargets = false;
-        for (int round = 0; round < rounds; ++round) {
-            const auto sleeper = make();
-            std::this_thread::sleep_for(kSettling);
-            const ProcessMemory memory = ProcessMemory::of(sleeper->process());
-            resident.push_back(static_cast<double>(memory.resident) / megabyte);
-            unique.push_back(static_cast<double>(memory.unique) / megabyte);
-            name = sleeper->name();
-            hasTargets = sleeper->hasTargets();
+/// What a program held in memory in each round, in megabytes.
+struct Held {
+    std::string name;
+    bool hasTargets = false;
+    bool isPeer = false;
+    std::vector<double> resident = {};
+    std::vector<double> unique = {};
+
+    void add(const ProcessMemory& memory) {
+        constexpr double kilobytes = 1024;
+        resident.push_back(static_cast<double>(memory.resident) / kilobytes);
+        unique.push_back(static_cast<double>(memory.unique) / kilobytes);
+    }
+};
+
+/// Peers stand beside `own` as well.
+void print(Report& report, const Held& held, const Held& own) {
+    const auto add = [&](const std::string& kind, const std::vector<double>& amounts,
+                         const std::vector<double>& base, double most) {
+        const std::string figure = held.name + ": " + kind;
+        report.add({"memory", figure, "MB", amounts,
+                    held.hasTargets ? std::optional(atMost(most)) : std::nullopt});
+        if (held.isPeer) {
+            report.add({"memory", figure + " ÷ " + own.name, "×", ratios(amounts, base)});
         }
-        const auto target = [&](double value) {
-            return hasTargets ? std::optional(atMost(value)) : std::nullopt;
-        };
-        report.add({"memory", name + ": RSS", "MB", resident, target(kMostResident)});
-        report.add({"memory", name + ": USS", "MB", unique, target(kMostUnique)});
+    };
+    add("RSS", held.resident, own.resident, kMostResident);
+    add("USS", held.unique, own.unique, kMostUnique);
+}
+
+/// One after the other: what two programs share counts for neither as its own. The first one is
+/// what its peers are compared with.
+void measureMemory(Report& report, const std::vector<Make>& programs, int rounds) {
+    std::vector<Held> all(programs.size());
+    for (int round = 0; round < rounds; ++round) {
+        for (std::size_t index = 0; index < programs.size(); ++index) {
+            const auto sleeper = programs[index]();
+            std::this_thread::sleep_for(kSettling);
+            all[index].name = sleeper->name();
+            all[index].hasTargets = sleeper->hasTargets();
+            all[index].isPeer = sleeper->isPeer();
+            all[index].add(ProcessMemory::of(sleeper->process()));
+        }
+    }
+    for (const Held& each : all) {
+        print(report, each, all.front());
     }
 }
 
-/// All at the same time: who sleeps is not disturbed by others that do.
+/// All at the same time: who sleeps is not disturbed by others that do. They are started once: a
+/// program that rests goes on resting from round to round.
 void countWakeUps(Report& report, const std::vector<Make>& programs, int rounds, int seconds) {
     struct Counted {
         std::unique_ptr<Sleeper> sleeper;
@@ -223,7 +250,7 @@ void countWakeUps(Report& report, const std::vector<Make>& programs, int rounds,
 int main(int count, char** arguments) {
     try {
         const std::vector<std::string> options(arguments + 1, arguments + count);
-        const int rounds = option(options, "--rounds", 2);
+        const int rounds = option(options, "--rounds", 3);
         const int seconds = option(options, "--seconds", 30);
         Report report(options);
         auto programs = peers();

@@ -1,7 +1,5 @@
 #include "benchmarks/Report.h"
 
-#include "benchmarks/Statistics.h"
-
 #include <algorithm>
 #include <cmath>
 #include <iostream>
@@ -63,6 +61,13 @@ std::vector<std::string> split(const std::string& text, char separator) {
 
 } // namespace
 
+bool Target::isReachedBy(const Samples& rounds) const {
+    if (kind == Kind::atLeast) {
+        return rounds.median() >= value;
+    }
+    return (value == 0 ? rounds.percentile(100) : rounds.median()) <= value;
+}
+
 std::string Row::line() const {
     std::ostringstream text;
     text << subject << '\t' << figure << '\t' << unit << '\t' << lineOf(target) << '\t';
@@ -98,16 +103,15 @@ void Report::add(const Row& found) {
     }
     Samples rounds;
     rounds.add(found.rounds);
-    const double median = rounds.percentile(50);
     const auto& target = found.target;
     // A subject stands beside the first of its rows alone.
     const bool isNewSubject = std::exchange(m_subject, found.subject) != found.subject;
     std::cout << row({isNewSubject ? "**" + found.subject + "**" : "", found.figure,
-                      withUnit(readable(median), found.unit),
+                      withUnit(readable(rounds.median()), found.unit),
                       readable(rounds.percentile(0)) + " – " + readable(rounds.percentile(100)),
                       std::to_string(rounds.count()), target ? inWords(*target, found.unit) : "",
                       !target                       ? ""
-                      : target->isReachedBy(median) ? "yes"
+                      : target->isReachedBy(rounds) ? "yes"
                                                     : "**no**"})
               << std::flush;
 }

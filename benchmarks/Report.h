@@ -1,5 +1,7 @@
 #pragma once
 
+#include "benchmarks/Statistics.h"
+
 #include <optional>
 #include <string>
 #include <vector>
@@ -13,9 +15,8 @@ struct Target {
     Kind kind = Kind::atMost;
     double value = 0;
 
-    bool isReachedBy(double figure) const {
-        return kind == Kind::atMost ? figure <= value : figure >= value;
-    }
+    /// Whether the median of the rounds reaches it; "none at all" is to hold in every round.
+    bool isReachedBy(const Samples& rounds) const;
 };
 
 inline Target atMost(double value) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iomanip>
+#include <numeric>
 #include <sstream>
 #include <stdexcept>
 
@@ -26,6 +27,19 @@ double Samples::percentile(double percent) const {
     const auto nth = values.begin() + static_cast<std::ptrdiff_t>(index);
     std::nth_element(values.begin(), nth, values.end());
     return *nth;
+}
+
+double Samples::median() const {
+    if (m_values.empty()) {
+        return 0;
+    }
+    auto values = m_values;
+    const auto upper = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), upper, values.end());
+    if (values.size() % 2 == 1) {
+        return *upper;
+    }
+    return std::midpoint(*std::max_element(values.begin(), upper), *upper);
 }
 
 std::string fixed(double value, int digits) {

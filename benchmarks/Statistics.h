@@ -16,6 +16,9 @@ public:
     /// The smallest value that `percent` of all values do not exceed (nearest rank); nought when
     /// there are none.
     double percentile(double percent) const;
+    /// The value in the middle: between two values in the middle, their mean. Nought when there are
+    /// none.
+    double median() const;
 
 private:
     std::vector<double> m_values;
