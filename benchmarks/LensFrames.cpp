@@ -7,15 +7,18 @@
 // magnus looks at the screen only when the pointer has moved; so the pointer moves with each frame
 // of the film, and the lens shows that film as well.
 
+#include "benchmarks/ChosenScreen.h"
 #include "benchmarks/FilmScene.h"
+#include "benchmarks/Peers.h"
 #include "benchmarks/Report.h"
 #include "benchmarks/Statistics.h"
 
 #include <sys/prctl.h>
 
 #include <exception>
-#include <filesystem>
 #include <iostream>
+#include <optional>
+#include <stdexcept>
 
 using namespace quillon;
 using namespace quillon::bench;
@@ -27,6 +30,7 @@ using Rounds = std::vector<double>;
 
 /// Milliseconds: a frame.
 constexpr double kLatest = 17;
+/// Of sixty: a frame at the edge of the measured time can fall outside of it.
 constexpr double kFewestFrames = 59;
 constexpr double kHighestLoad = 25;
 constexpr int kSecondsOfRest = 5;
@@ -40,6 +44,8 @@ struct Findings {
     Rounds load = {};
     Rounds cost = {};
     Rounds wakeUps = {};
+    /// What the lens needs for a frame beside it.
+    Rounds costOfLens = {};
 
     void add(const Samples& times) {
         middles.push_back(times.percentile(50));
@@ -53,7 +59,7 @@ struct Findings {
     }
 };
 
-/// Of programs that are not installed nothing is found.
+/// Of programs that are not installed or fail nothing is found.
 struct Everything {
     Findings lens{"lens"};
     Findings xzoom{"xzoom"};
@@ -61,35 +67,46 @@ struct Everything {
     Findings magnus{"magnus, pointer in motion"};
 };
 
-bool isInstalled(const std::string& name) {
-    return std::filesystem::exists("/usr/bin/" + name);
-}
-
 struct Amounts {
     int changes = 0;
     int seconds = 0;
 };
 
-void addRound(Everything& all, const test::VirtualDesktop::Options& screen, Amounts amounts) {
+/// Adds what a film came to in a magnifier, beside the same film in the lens.
+void addBeside(const FilmScene::Film& inLens, Findings& found, const FilmScene::Film& film) {
+    if (film.shown == 0) {
+        throw std::runtime_error(found.name + " showed no frame of the film");
+    }
+    found.add(film);
+    found.costOfLens.push_back(inLens.cost() / film.cost());
+}
+
+void addRound(Everything& all, const Round& round, const test::VirtualDesktop::Options& screen,
+              Amounts amounts) {
+    FilmScene::Film atRest;
+    FilmScene::Film inMotion;
     {
         FilmScene scene(screen, {"lens"});
         all.lens.add(scene.timeChanges(amounts.changes));
-        all.lens.add(scene.playFilm(amounts.seconds, Pointer::atRest));
+        atRest = scene.playFilm(amounts.seconds, Pointer::atRest);
         all.lens.wakeUps.push_back(static_cast<double>(scene.wakeUpsAtRest(kSecondsOfRest)));
-        all.lensInMotion.add(scene.playFilm(amounts.seconds, Pointer::moving));
+        inMotion = scene.playFilm(amounts.seconds, Pointer::moving);
     }
-    if (isInstalled("xzoom")) {
+    all.lens.add(atRest);
+    all.lensInMotion.add(inMotion);
+    measurePeer("xzoom", round, [&] {
         // Each d halves the pause between two looks, from 200 milliseconds to none.
         FilmScene scene(screen, {.name = "xzoom",
                                  .command = {"xzoom", "-mag", "2", "-source", "100x100+450+450"},
                                  .keys = {"d", "d", "d", "d"}});
-        all.xzoom.add(scene.timeChanges(amounts.changes));
-        all.xzoom.add(scene.playFilm(amounts.seconds, Pointer::atRest));
-    }
-    if (isInstalled("magnus")) {
+        const Samples times = scene.timeChanges(amounts.changes);
+        addBeside(atRest, all.xzoom, scene.playFilm(amounts.seconds, Pointer::atRest));
+        all.xzoom.add(times);
+    });
+    measurePeer("magnus", round, [&] {
         FilmScene scene(screen, {.name = "magnus", .command = {"magnus", "--refresh-interval=8"}});
-        all.magnus.add(scene.playFilm(amounts.seconds, Pointer::moving));
-    }
+        addBeside(inMotion, all.magnus, scene.playFilm(amounts.seconds, Pointer::moving));
+    });
 }
 
 /// Figures for which there is a target have it for the lens.
@@ -120,9 +137,9 @@ void print(Report& report, const std::string& subject, const Findings& found, bo
 /// What the lens needs for a frame beside another.
 void compare(Report& report, const std::string& subject, const Findings& lens,
              const Findings& other) {
-    if (!other.cost.empty()) {
+    if (!other.costOfLens.empty()) {
         report.add({subject, lens.name + ": of a core for a frame ÷ " + other.name, "×",
-                    ratios(lens.cost, other.cost), atMost(1)});
+                    other.costOfLens, atMost(1)});
     }
 }
 
@@ -135,17 +152,12 @@ int main(int count, char** arguments) {
         prctl(PR_SET_TIMERSLACK, 1);
         const int rounds = option(options, "--rounds", 3);
         const Amounts amounts{option(options, "--changes", 40), option(options, "--seconds", 5)};
-        test::VirtualDesktop::Options screen;
-        screen.width = option(options, "--width", screen.width);
-        screen.height = option(options, "--height", screen.height);
+        const auto screen = screenOf(options);
+        const std::string subject = subjectOn("lens", screen);
         Everything all;
-        for (int round = 0; round < rounds; ++round) {
-            addRound(all, screen, amounts);
+        for (int round = 1; round <= rounds; ++round) {
+            addRound(all, {subject, round}, screen, amounts);
         }
-        const bool isUsual = screen.width == test::VirtualDesktop::Options().width;
-        const std::string subject =
-            isUsual ? "lens"
-                    : "lens, " + std::to_string(screen.width) + "×" + std::to_string(screen.height);
         Report report(options);
         print(report, subject, all.lens, true);
         print(report, subject, all.lensInMotion, true);

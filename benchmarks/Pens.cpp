@@ -1,14 +1,12 @@
 #include "benchmarks/Pens.h"
 
+#include "benchmarks/Peers.h"
+
 #include "desktop/support/InputDriver.h"
 #include "desktop/support/Program.h"
 #include "desktop/support/StoredSettings.h"
 
-#include <unistd.h>
-
-#include <cstdlib>
 #include <fstream>
-#include <sstream>
 #include <stdexcept>
 
 namespace quillon::bench {
@@ -159,17 +157,6 @@ PenProgram program(const std::string& name, PenProgram::Role role) {
 }
 
 } // namespace
-
-bool isInstalled(const std::string& name) {
-    const char* path = std::getenv("PATH");
-    std::istringstream folders(path ? path : "");
-    for (std::string folder; std::getline(folders, folder, ':');) {
-        if (access((folder + "/" + name).c_str(), X_OK) == 0) {
-            return true;
-        }
-    }
-    return false;
-}
 
 std::vector<PenProgram> penPrograms() {
     std::vector<PenProgram> programs = {

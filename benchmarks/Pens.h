@@ -38,7 +38,4 @@ std::vector<PenProgram> penPrograms();
 /// The one of this project with its palette hidden.
 PenProgram penWithoutPalette();
 
-/// Whether a program stands on the path.
-bool isInstalled(const std::string& name);
-
 } // namespace quillon::bench

@@ -1,6 +1,6 @@
 #include "benchmarks/Projecteur.h"
 
-#include "benchmarks/Pens.h"
+#include "benchmarks/Peers.h"
 
 #include "desktop/support/Eventually.h"
 

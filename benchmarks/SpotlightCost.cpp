@@ -3,6 +3,7 @@
 //     spotlight-cost [--rounds 3] [--moves 500] [--width 1920] [--height 1080] [--rows]
 
 #include "benchmarks/ChosenScreen.h"
+#include "benchmarks/Peers.h"
 #include "benchmarks/ProcessUsage.h"
 #include "benchmarks/Projecteur.h"
 #include "benchmarks/Report.h"
@@ -33,7 +34,7 @@ constexpr double kLessThanProjecteur = 15;
 constexpr double kMilliseconds = 1000;
 constexpr std::chrono::milliseconds kPause{10};
 constexpr std::chrono::seconds kTimeToSettle{1};
-constexpr std::chrono::seconds kPatience{4};
+constexpr std::chrono::seconds kPatience{2};
 constexpr int kTriesOfProjecteur = 4;
 constexpr int kMovesOfOneWay = 100;
 constexpr test::Pixel kStep{7, 3};
@@ -116,21 +117,23 @@ int main(int count, char** arguments) {
         const int rounds = option(options, "--rounds", 3);
         const int moves = option(options, "--moves", 500);
         const auto screen = screenOf(options);
+        const std::string subject = subjectOn("spotlight", screen);
         std::vector<double> own;
         std::vector<double> projecteur;
-        for (int round = 0; round < rounds; ++round) {
+        std::vector<double> dearer;
+        for (int round = 1; round <= rounds; ++round) {
             own.push_back(costOfOwn(screen, moves));
-            if (Projecteur::isInstalled()) {
+            measurePeer("projecteur", {subject, round}, [&] {
                 projecteur.push_back(costOfProjecteur(screen, moves));
-            }
+                dearer.push_back(projecteur.back() / own.back());
+            });
         }
         Report report(options);
-        const std::string subject = subjectOn("spotlight", screen);
         report.add({subject, "quillon-mark: processor for a move", "ms", own});
         if (!projecteur.empty()) {
             report.add({subject, "projecteur: processor for a move", "ms", projecteur});
-            report.add({subject, "projecteur ÷ quillon-mark", "×", ratios(projecteur, own),
-                        atLeast(kLessThanProjecteur)});
+            report.add(
+                {subject, "projecteur ÷ quillon-mark", "×", dearer, atLeast(kLessThanProjecteur)});
         }
         return 0;
     } catch (const std::exception& error) {
