@@ -22,8 +22,10 @@ constexpr test::Pixel kFarAway{1400, 700};
 
 } // namespace
 
-FollowerScene::FollowerScene(Look isThere)
-    : m_isThere(isThere) {}
+FollowerScene::FollowerScene(const test::VirtualDesktop::Options& screen, Look isThere)
+    : m_isThere(isThere)
+    , m_desktop(screen)
+    , m_paper(m_desktop.display(), {0, 0, screen.width, screen.height}, followedPaper) {}
 
 void FollowerScene::waitUntilFollowed() {
     const bool isFollowed = test::eventually([&] {
@@ -70,8 +72,9 @@ double FollowerScene::loadOfBurst(int seconds) {
     return 100 * static_cast<double>(used.processorTicks) / ticksPerSecond / elapsed.count();
 }
 
-ProgramScene::ProgramScene(std::string_view key, Look isThere)
-    : FollowerScene(isThere) {
+ProgramScene::ProgramScene(const test::VirtualDesktop::Options& screen, std::string_view key,
+                           Look isThere)
+    : FollowerScene(screen, isThere) {
     toggle(key);
     waitUntilFollowed();
 }
@@ -80,8 +83,9 @@ void ProgramScene::toggle(std::string_view key) {
     input().chord({"Super_L", "Shift_L", key});
 }
 
-BareScene::BareScene(const std::string& follower, Look isThere)
-    : FollowerScene(isThere)
+BareScene::BareScene(const test::VirtualDesktop::Options& screen, const std::string& follower,
+                     Look isThere)
+    : FollowerScene(screen, isThere)
     , m_follower({QUILLON_BARE_FOLLOWER_PATH, follower}, desktop().environment()) {
     waitUntilFollowed();
 }

@@ -34,7 +34,7 @@ public:
     double loadOfBurst(int seconds);
 
 protected:
-    explicit FollowerScene(Look isThere);
+    FollowerScene(const test::VirtualDesktop::Options& screen, Look isThere);
 
     /// Moves between two places, far apart, until the picture comes along.
     void waitUntilFollowed();
@@ -45,7 +45,7 @@ protected:
 private:
     Look m_isThere;
     test::VirtualDesktop m_desktop;
-    test::ProbeWindow m_paper{m_desktop.display(), {0, 0, 1920, 1080}, followedPaper};
+    test::ProbeWindow m_paper;
     test::InputDriver m_input{m_desktop.connection()};
     test::ScreenReader m_screen{m_desktop.connection()};
 };
@@ -54,7 +54,7 @@ private:
 class ProgramScene : public FollowerScene {
 public:
     /// `key` is that of the shortcut which switches on what is to follow.
-    ProgramScene(std::string_view key, Look isThere);
+    ProgramScene(const test::VirtualDesktop::Options& screen, std::string_view key, Look isThere);
 
     void toggle(std::string_view key);
 
@@ -68,7 +68,8 @@ private:
 /// The least that following can be.
 class BareScene : public FollowerScene {
 public:
-    BareScene(const std::string& follower, Look isThere);
+    BareScene(const test::VirtualDesktop::Options& screen, const std::string& follower,
+              Look isThere);
 
 protected:
     pid_t process() override { return m_follower.pid(); }

@@ -1,8 +1,10 @@
 // How soon what follows the pointer is where the pointer is, and what following costs, side by side
 // with the least that following can be.
 //
-//     pointer-following [--rounds 3] [--moves 200] [--seconds 3] [--rows]
+//     pointer-following [--rounds 3] [--moves 200] [--seconds 3] [--width 1920] [--height 1080]
+//                       [--rows]
 
+#include "benchmarks/ChosenScreen.h"
 #include "benchmarks/FollowerScene.h"
 #include "benchmarks/Report.h"
 #include "benchmarks/Statistics.h"
@@ -56,18 +58,20 @@ enum class Role { floor, own };
 
 class Measurement {
 public:
-    Measurement(int moves, int seconds)
-        : m_moves(moves)
+    Measurement(const test::VirtualDesktop::Options& screen, int moves, int seconds)
+        : m_screen(screen)
+        , m_moves(moves)
         , m_seconds(seconds) {}
 
     const std::vector<Row>& rows() const { return m_rows; }
 
     void takeRound() {
-        takeTimes("bare halo", Role::floor, *std::make_unique<BareScene>("halo", isHaloAt));
-        takeTimes("halo", Role::own, *std::make_unique<ProgramScene>("h", isHaloAt));
+        takeTimes("bare halo", Role::floor,
+                  *std::make_unique<BareScene>(m_screen, "halo", isHaloAt));
+        takeTimes("halo", Role::own, *std::make_unique<ProgramScene>(m_screen, "h", isHaloAt));
         takeTimes("bare spotlight", Role::floor,
-                  *std::make_unique<BareScene>("spotlight", isCircleAt));
-        const auto spotlight = std::make_unique<ProgramScene>("l", isCircleAt);
+                  *std::make_unique<BareScene>(m_screen, "spotlight", isCircleAt));
+        const auto spotlight = std::make_unique<ProgramScene>(m_screen, "l", isCircleAt);
         takeTimes("spotlight", Role::own, *spotlight);
         spotlight->toggle("h");
         add("halo and spotlight: of a core at 1000 moves a second", "%", atMost(kMostLoad),
@@ -79,9 +83,15 @@ private:
         const auto take = [&](const std::string& kind, FollowerScene::Way way) {
             const Samples times = scene.timeMoves(way, m_moves);
             const auto addTime = [&](const std::string& which, double percent, double most) {
-                add(name + ": " + kind + " → picture, " + which, "ms",
-                    role == Role::own ? std::optional(atMost(most)) : std::nullopt,
-                    times.percentile(percent));
+                const std::string figure = name + ": " + kind + " → picture, " + which;
+                const double time = times.percentile(percent);
+                if (role == Role::floor) {
+                    add(figure, "ms", std::nullopt, time);
+                } else {
+                    add(figure, "ms", atMost(most), time);
+                    add(figure + " ÷ bare " + name, "×", std::nullopt,
+                        time / lastOf("bare " + figure));
+                }
             };
             addTime("p50", 50, kMostInTheMiddle);
             addTime("p99", 99, kMostOfAlmostAll);
@@ -95,11 +105,17 @@ private:
              const std::optional<Target>& target, double value) {
         auto row = std::ranges::find(m_rows, figure, &Row::figure);
         if (row == m_rows.end()) {
-            row = m_rows.insert(row, {"pointer", figure, unit, {}, target});
+            row = m_rows.insert(row, {subjectOn("pointer", m_screen), figure, unit, {}, target});
         }
         row->rounds.push_back(value);
     }
 
+    /// What a figure came to in this round.
+    double lastOf(const std::string& figure) const {
+        return std::ranges::find(m_rows, figure, &Row::figure)->rounds.back();
+    }
+
+    test::VirtualDesktop::Options m_screen;
     int m_moves;
     int m_seconds;
     std::vector<Row> m_rows;
@@ -112,7 +128,8 @@ int main(int count, char** arguments) {
         const std::vector<std::string> options(arguments + 1, arguments + count);
         // Pauses of microseconds are kept as such.
         prctl(PR_SET_TIMERSLACK, 1);
-        Measurement measurement(option(options, "--moves", 200), option(options, "--seconds", 3));
+        Measurement measurement(screenOf(options), option(options, "--moves", 200),
+                                option(options, "--seconds", 3));
         for (int round = 0; round < option(options, "--rounds", 3); ++round) {
             measurement.takeRound();
         }
