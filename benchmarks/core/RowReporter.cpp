@@ -41,25 +41,16 @@ void RowReporter::ReportRuns(const std::vector<Run>& runs) {
     if (name != m_name) {
         reportGrowth();
         m_name = name;
+        m_things = runs.front().report_label.empty() ? "strokes" : runs.front().report_label;
     }
-    const std::size_t strokes = std::stoul(runs.front().run_name.args);
-    m_report.add({"core", name + ", " + grouped(strokes) + " strokes", "ms", times,
-                  targetOf(name, strokes)});
-    m_timed.push_back({strokes, times});
+    const std::size_t size = std::stoul(runs.front().run_name.args);
+    m_report.add(
+        {"core", name + ", " + grouped(size) + " " + m_things, "ms", times, targetOf(name, size)});
+    m_growth.add(size, times);
 }
 
 void RowReporter::reportGrowth() {
-    const auto timed = std::exchange(m_timed, {});
-    if (timed.size() < 2) {
-        return;
-    }
-    const Timed& small = *(timed.end() - 2);
-    const Timed& large = timed.back();
-    const double growth = static_cast<double>(large.strokes) / static_cast<double>(small.strokes);
-    m_report.add({"core",
-                  m_name + ", exponent from " + grouped(small.strokes) + " to " +
-                      grouped(large.strokes) + " strokes",
-                  "", exponents(small.times, large.times, growth)});
+    std::exchange(m_growth, {}).report(m_report, m_name, m_things);
 }
 
 } // namespace quillon::bench

@@ -1,17 +1,18 @@
 #pragma once
 
 #include "benchmarks/Report.h"
+#include "benchmarks/core/Growth.h"
 
 #include <benchmark/benchmark.h>
 
-#include <cstddef>
 #include <string>
 #include <vector>
 
 namespace quillon::bench {
 
 /// Hands what Google Benchmark has timed on to a report: a row for each size of a page with the
-/// repetitions as rounds, and one for the growth between the two largest sizes.
+/// repetitions as rounds, and one for the growth between the two largest sizes. A size counts
+/// strokes, unless the label of the benchmark is another word.
 class RowReporter : public benchmark::BenchmarkReporter {
 public:
     explicit RowReporter(Report& report)
@@ -22,16 +23,13 @@ public:
     void Finalize() override { reportGrowth(); }
 
 private:
-    struct Timed {
-        std::size_t strokes = 0;
-        std::vector<double> times;
-    };
-    /// Of what `m_timed` holds, which is then forgotten.
+    /// Of the last benchmark, which is then forgotten.
     void reportGrowth();
 
     Report& m_report;
     std::string m_name;
-    std::vector<Timed> m_timed;
+    std::string m_things;
+    Growth m_growth;
 };
 
 } // namespace quillon::bench
