@@ -1,11 +1,10 @@
 #include "annotation/Eraser.h"
 #include "annotation/FinishedStrokesLayer.h"
+#include "benchmarks/Statistics.h"
 #include "benchmarks/core/Pages.h"
 #include "desktop/qt/QtGraphics.h"
 
-#include <algorithm>
 #include <chrono>
-#include <vector>
 
 namespace quillon::bench {
 namespace {
@@ -46,17 +45,18 @@ void sweepSteps(benchmark::State& state) {
     desktop::QtGraphics graphics;
     FinishedStrokesLayer layer(graphics);
     layer.layout(kPageSize, 1);
+    // The first one warms up.
+    showAll(layer, erased);
     showAll(layer, page);
     for (auto _ : state) {
         layer.update(erased, {});
-        std::vector<std::chrono::duration<double>> steps;
+        Samples steps;
         while (layer.isBehind()) {
             const auto start = Clock::now();
             layer.repaintStep();
-            steps.push_back(Clock::now() - start);
+            steps.add(std::chrono::duration<double>(Clock::now() - start).count());
         }
-        std::ranges::sort(steps);
-        state.SetIterationTime(steps.empty() ? 0 : steps[steps.size() * 99 / 100].count());
+        state.SetIterationTime(steps.percentile(99));
         showAll(layer, page);
     }
 }
