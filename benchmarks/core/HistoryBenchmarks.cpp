@@ -12,6 +12,21 @@ void drawPage(DrawingState& drawing, std::size_t strokes) {
     drawing.addStroke(strokeOnPage(static_cast<std::uint32_t>(strokes)));
 }
 
+/// Each change copies what the snapshot before it shares with the page.
+void snapshot(benchmark::State& state) {
+    StrokeList page = pageOf(sizeOfPage(state));
+    page.append(strokeOnPage(0));
+    const std::size_t middle = page.size() / 2;
+    const DrawingStroke changed = page[middle];
+    StrokeList last = page;
+    for (auto _ : state) {
+        page.replace(middle, changed);
+        last = page;
+        benchmark::DoNotOptimize(last);
+    }
+}
+BENCHMARK(snapshot)->Name("snapshot after a stroke has changed")->Apply(forEachPage);
+
 void undo(benchmark::State& state) {
     DrawingState drawing;
     drawPage(drawing, sizeOfPage(state));
@@ -37,6 +52,7 @@ void undoShown(benchmark::State& state) {
     }
 }
 BENCHMARK(undoShown)->Name("undo and redo of a stroke, painted")->Apply(forEachPageButTheLargest);
+BENCHMARK(undoShown)->Name("undo and redo of a stroke, painted")->Apply(onceOnTheLargestPage);
 
 void removal(benchmark::State& state) {
     DrawingState drawing;

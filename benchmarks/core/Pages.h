@@ -5,6 +5,8 @@
 
 #include <benchmark/benchmark.h>
 
+#include <iterator>
+
 namespace quillon::bench {
 
 /// Runs a benchmark once for each size of a page, which it finds in `state.range()`.
@@ -15,7 +17,7 @@ inline void forEachPage(benchmark::internal::Benchmark* benchmark) {
     benchmark->Unit(benchmark::kMillisecond);
 }
 
-/// The same without the largest page, for what would take minutes there.
+/// The same without the largest page, for what takes seconds there.
 inline void forEachPageButTheLargest(benchmark::internal::Benchmark* benchmark) {
     for (const std::size_t strokes : kPageSizes) {
         if (strokes <= kLargePage) {
@@ -23,6 +25,14 @@ inline void forEachPageButTheLargest(benchmark::internal::Benchmark* benchmark) 
         }
     }
     benchmark->Unit(benchmark::kMillisecond);
+}
+
+/// The largest page alone, just once.
+inline void onceOnTheLargestPage(benchmark::internal::Benchmark* benchmark) {
+    benchmark->Arg(static_cast<std::int64_t>(std::end(kPageSizes)[-1]))
+        ->Iterations(1)
+        ->Repetitions(1)
+        ->Unit(benchmark::kMillisecond);
 }
 
 /// Makes the layer show these strokes, with all that remains to be repainted.

@@ -32,6 +32,7 @@ void wholeScreen(benchmark::State& state) {
     }
 }
 BENCHMARK(wholeScreen)->Name("whole screen repainted")->Apply(forEachPageButTheLargest);
+BENCHMARK(wholeScreen)->Name("whole screen repainted")->Apply(onceOnTheLargestPage);
 
 } // namespace
 } // namespace quillon::bench
