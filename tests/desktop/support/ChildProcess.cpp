@@ -16,6 +16,8 @@ namespace quillon::test {
 
 namespace {
 
+constexpr std::chrono::seconds kPatience{1};
+
 std::string temporaryFile() {
     std::string name = std::filesystem::temp_directory_path() / "quillon-test-XXXXXX";
     const int descriptor = mkstemp(name.data());
@@ -40,7 +42,7 @@ void redirect(const std::string& file, int descriptor, int flags) {
 } // namespace
 
 ChildProcess::ChildProcess(const std::vector<std::string>& command, const Environment& environment,
-                           int keptDescriptor)
+                           int keptDescriptor, int signalOfOrphan)
     : m_outputFile(temporaryFile())
     , m_errorFile(temporaryFile()) {
     std::vector<std::string> settings;
@@ -62,7 +64,7 @@ ChildProcess::ChildProcess(const std::vector<std::string>& command, const Enviro
     if (m_pid != 0) {
         return;
     }
-    prctl(PR_SET_PDEATHSIG, SIGKILL);
+    prctl(PR_SET_PDEATHSIG, signalOfOrphan);
     redirect("/dev/null", STDIN_FILENO, O_RDONLY);
     redirect(m_outputFile, STDOUT_FILENO, O_WRONLY | O_APPEND);
     redirect(m_errorFile, STDERR_FILENO, O_WRONLY | O_APPEND);
@@ -74,6 +76,11 @@ ChildProcess::ChildProcess(const std::vector<std::string>& command, const Enviro
 }
 
 ChildProcess::~ChildProcess() {
+    // Who is asked takes along what it left in the file system, as a server its socket.
+    if (isRunning()) {
+        sendSignal(SIGTERM);
+        waitForExit(kPatience);
+    }
     if (isRunning()) {
         sendSignal(SIGKILL);
         waitForExit();

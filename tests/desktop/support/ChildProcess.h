@@ -2,6 +2,7 @@
 
 #include "desktop/support/Eventually.h"
 
+#include <signal.h>
 #include <sys/types.h>
 
 #include <map>
@@ -11,15 +12,16 @@
 
 namespace quillon::test {
 
-/// A program run by a test. What it prints is kept; it ends with the test, whatever happens.
+/// A program run by a test. What it prints is kept; it ends with the test, whatever happens: first
+/// it is asked to, and then made to.
 class ChildProcess {
 public:
     using Environment = std::map<std::string, std::string>;
 
     /// Runs `command` with exactly this environment. A pipe end given as `keptDescriptor` stays
-    /// open in the child.
+    /// open in the child. When this process is killed, the child gets `signalOfOrphan`.
     ChildProcess(const std::vector<std::string>& command, const Environment& environment,
-                 int keptDescriptor = -1);
+                 int keptDescriptor = -1, int signalOfOrphan = SIGKILL);
     ~ChildProcess();
     ChildProcess(const ChildProcess&) = delete;
     ChildProcess& operator=(const ChildProcess&) = delete;

@@ -101,6 +101,27 @@ TEST(ChildProcess, a_child_sees_the_environment_it_was_given_and_nothing_else) {
     EXPECT_EQ(child.standardOutput(), "ONLY=this\n");
 }
 
+TEST(VirtualDesktop, leaves_no_socket_of_its_server_behind) {
+    std::string socket;
+    {
+        const VirtualDesktop desktop;
+        socket = "/tmp/.X11-unix/X" + desktop.display().substr(1);
+        ASSERT_TRUE(std::filesystem::exists(socket));
+    }
+    EXPECT_FALSE(std::filesystem::exists(socket));
+}
+
+TEST(ChildProcess, a_child_that_overhears_the_request_to_end_ends_nevertheless) {
+    pid_t deaf = 0;
+    {
+        ChildProcess child({"sh", "-c", "trap '' TERM; echo ready; while :; do sleep 0.05; done"},
+                           {{"PATH", "/usr/bin:/bin"}});
+        ASSERT_TRUE(eventually([&] { return !child.standardOutput().empty(); }));
+        deaf = child.pid();
+    }
+    EXPECT_NE(kill(deaf, 0), 0);
+}
+
 TEST(ChildProcess, a_child_that_ended_by_a_signal_answers_it) {
     ChildProcess child({"sleep", "60"}, {{"PATH", "/usr/bin:/bin"}});
     EXPECT_TRUE(child.isRunning());

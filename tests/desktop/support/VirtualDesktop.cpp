@@ -141,7 +141,7 @@ void VirtualDesktop::startServer(const Options& options) {
     }
     m_server = std::make_unique<ChildProcess>(
         command, ChildProcess::Environment{{"PATH", std::getenv("PATH")}, {"HOME", m_home.path()}},
-        ends[1]);
+        ends[1], SIGTERM);
     close(ends[1]);
     const std::string number = readDisplayNumber(ends[0]);
     close(ends[0]);
