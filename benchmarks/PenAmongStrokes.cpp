@@ -13,6 +13,7 @@
 #include <exception>
 #include <functional>
 #include <iostream>
+#include <iterator>
 #include <optional>
 #include <stdexcept>
 
@@ -21,58 +22,120 @@ using namespace quillon::bench;
 
 namespace {
 
-constexpr int kPageSizes[] = {0, 100, 1000, 10000, 100000};
+constexpr int kPageSizes[] = {100, 1000, 10000, 100000};
 /// The page on which everything else is tried.
 constexpr int kFullPage = 10000;
 /// How much slower than on an empty screen the pen may be there.
 constexpr double kTolerated = 1.2;
 const std::string kEmpty = "empty screen";
 
-/// Where the pen was timed, and what came of it in each round.
-struct Situation {
-    std::string name;
+/// What came of it in each round, in milliseconds.
+struct Times {
     std::vector<double> middles = {};
     std::vector<double> worsts = {};
+
+    void add(const Samples& latency) {
+        middles.push_back(latency.percentile(50));
+        worsts.push_back(latency.percentile(99));
+    }
+};
+
+/// Where the pen was timed.
+struct Situation {
+    std::string name;
+    /// Of a page on which nothing else happens; otherwise nought.
+    int strokes = 0;
     bool hasTarget = true;
 };
 
 /// All of them, in the order in which they first came.
 class Situations {
 public:
-    void add(const std::string& name, bool hasTarget, const Samples& latency) {
-        auto found = std::ranges::find(m_all, name, &Situation::name);
+    /// `empty` was timed on the empty screen at the same time.
+    void add(const Situation& situation, const Samples& latency, const Samples& empty) {
+        auto found = std::ranges::find(m_all, situation.name,
+                                       [](const Timed& each) { return each.situation.name; });
         if (found == m_all.end()) {
-            m_all.push_back({.name = name, .hasTarget = hasTarget});
+            m_all.push_back({situation});
             found = m_all.end() - 1;
         }
-        found->middles.push_back(latency.percentile(50));
-        found->worsts.push_back(latency.percentile(99));
+        found->times.add(latency);
+        found->empty.add(empty);
     }
 
+    /// What was timed on the empty screen in the whole of a round.
+    void addEmpty(const Samples& latency) { m_empty.add(latency); }
+
     void report(Report& report) const {
-        const Situation& empty = m_all.front();
-        for (const Situation& each : m_all) {
-            const auto target = each.hasTarget ? std::optional(atMost(kTolerated)) : std::nullopt;
-            const auto add = [&](const char* percentile, const std::vector<double>& times,
-                                 const std::vector<double>& base) {
-                report.add({kSubject, each.name + ", " + percentile, "ms", times});
-                if (&each != &empty) {
-                    report.add({kSubject, each.name + ", " + percentile + " ÷ " + kEmpty, "×",
-                                ratios(times, base), target});
-                }
-            };
-            add("p50", each.middles, empty.middles);
-            add("p99", each.worsts, empty.worsts);
+        report.add({kSubject, kEmpty + ", p50", "ms", m_empty.middles});
+        report.add({kSubject, kEmpty + ", p99", "ms", m_empty.worsts});
+        for (const Timed& each : m_all) {
+            compare(report, each, "p50", each.times.middles, each.empty.middles);
+            compare(report, each, "p99", each.times.worsts, each.empty.worsts);
         }
+        reportGrowth(report);
     }
 
 private:
     static constexpr const char* kSubject = "pen among strokes";
 
-    std::vector<Situation> m_all;
+    struct Timed {
+        Situation situation;
+        Times times = {};
+        Times empty = {};
+    };
+
+    static void compare(Report& report, const Timed& timed, const std::string& percentile,
+                        const std::vector<double>& times, const std::vector<double>& empty) {
+        const std::string figure = timed.situation.name + ", " + percentile;
+        report.add({kSubject, figure, "ms", times});
+        report.add({kSubject, figure + " ÷ " + kEmpty, "×", ratios(times, empty),
+                    timed.situation.hasTarget ? std::optional(atMost(kTolerated)) : std::nullopt});
+    }
+
+    /// Between the two largest pages.
+    void reportGrowth(Report& report) const {
+        std::vector<Timed> pages;
+        std::ranges::copy_if(m_all, std::back_inserter(pages),
+                             [](const Timed& each) { return each.situation.strokes > 0; });
+        if (pages.size() < 2) {
+            return;
+        }
+        const Timed& small = *(pages.end() - 2);
+        const Timed& large = pages.back();
+        const double growth = static_cast<double>(large.situation.strokes) /
+                              static_cast<double>(small.situation.strokes);
+        report.add({kSubject,
+                    "p50, exponent from " +
+                        grouped(static_cast<std::size_t>(small.situation.strokes)) + " to " +
+                        large.situation.name,
+                    "", exponents(small.times.middles, large.times.middles, growth)});
+    }
+
+    Times m_empty;
+    std::vector<Timed> m_all;
 };
 
-/// One start of the program, with all situations one after the other.
+/// One page, and the pen above it.
+class PenOnPage {
+public:
+    DrawnPage& page() { return m_page; }
+
+    /// Draws a stroke and takes it back.
+    void measureStroke(PenResult& result) {
+        m_meter.measureStroke(result);
+        m_page.undo();
+        m_meter.awaitErased();
+        m_page.settle();
+    }
+
+private:
+    DrawnPage m_page;
+    PenMeter m_meter{m_page.desktop()};
+};
+
+/// One start of the program, with all situations one after the other. Another one beside it keeps
+/// its page empty: the pen is timed there before each stroke among others.
 class Round {
 public:
     Round(Situations& situations, int strokes)
@@ -85,70 +148,72 @@ public:
             if (size > mostStrokes) {
                 continue;
             }
-            m_page.fillUpTo(size);
-            measure(inWords(size), size <= kFullPage);
+            m_full.page().fillUpTo(size);
+            measure({inWords(size), size, size <= kFullPage});
             if (size == kFullPage) {
                 measureOnFullPage();
             }
         }
-        m_page.turnToWhiteboard();
-        m_page.fillUpTo(kFullPage);
-        measure(inWords(kFullPage) + " over the whiteboard");
+        m_full.page().turnToWhiteboard();
+        m_full.page().fillUpTo(kFullPage);
+        measure({inWords(kFullPage) + " over the whiteboard"});
+        m_situations.addEmpty(m_onEmpty);
     }
 
 private:
     static std::string inWords(int strokes) {
-        return strokes == 0 ? kEmpty : grouped(static_cast<std::size_t>(strokes)) + " strokes";
+        return grouped(static_cast<std::size_t>(strokes)) + " strokes";
     }
 
     void warmUp() {
         PenResult ignored;
-        m_meter.measureStroke(ignored);
-        m_page.undo();
-        m_meter.awaitErased();
+        m_empty.measureStroke(ignored);
+        m_full.measureStroke(ignored);
     }
 
     void measureOnFullPage() {
-        measure("right after an undo", true, [this] {
-            m_page.drawLongStroke();
-            m_page.settle();
-            m_page.undo();
+        DrawnPage& page = m_full.page();
+        measure({"right after an undo"}, [&page] {
+            page.drawLongStroke();
+            page.settle();
+            page.undo();
         });
-        measure("right after an erase", true, [this] { m_page.erase(); });
+        measure({"right after an erase"}, [&page] { page.erase(); });
         measure(
-            "right after a clear", true, [this] { m_page.clear(); }, [this] { m_page.undo(); });
-        measure("right after the undo of a clear", true, [this] {
-            m_page.clear();
-            m_page.settle();
-            m_page.undo();
+            {"right after a clear"}, [&page] { page.clear(); }, [&page] { page.undo(); });
+        measure({"right after the undo of a clear"}, [&page] {
+            page.clear();
+            page.settle();
+            page.undo();
         });
     }
 
     /// Times a few strokes, each right after `before`, and takes them back, and then what `before`
     /// did.
     void measure(
-        const std::string& name, bool hasTarget = true, const std::function<void()>& before = [] {},
+        const Situation& situation, const std::function<void()>& before = [] {},
         const std::function<void()>& after = [] {}) {
         PenResult result;
+        PenResult onEmpty;
         for (int stroke = 0; stroke < m_strokes; ++stroke) {
+            m_empty.measureStroke(onEmpty);
             before();
-            m_meter.measureStroke(result);
-            m_page.undo();
-            m_meter.awaitErased();
-            m_page.settle();
+            m_full.measureStroke(result);
             after();
-            m_page.settle();
+            m_full.page().settle();
         }
-        if (result.missed > 0) {
-            throw std::runtime_error("motions without a picture: " + name);
+        if (result.missed + onEmpty.missed > 0) {
+            throw std::runtime_error("motions without a picture: " + situation.name);
         }
-        m_situations.add(name, hasTarget, result.latency);
+        m_situations.add(situation, result.latency, onEmpty.latency);
+        m_onEmpty.add(onEmpty.latency);
     }
 
     Situations& m_situations;
     int m_strokes;
-    DrawnPage m_page;
-    PenMeter m_meter{m_page.desktop()};
+    PenOnPage m_full;
+    PenOnPage m_empty;
+    Samples m_onEmpty;
 };
 
 } // namespace
