@@ -1,0 +1,101 @@
+#include "raster/InkPainting.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <random>
+#include <vector>
+
+namespace quillon::test {
+namespace {
+
+constexpr int kSide = 48;
+constexpr int kSamples = 8;
+
+struct Cubic {
+    CGPoint start;
+    CGPoint control1;
+    CGPoint control2;
+    CGPoint end;
+
+    CGPoint at(CGFloat t) const {
+        const CGFloat s = 1 - t;
+        return start * (s * s * s) + control1 * (3 * s * s * t) + control2 * (3 * s * t * t) +
+               end * (t * t * t);
+    }
+};
+
+/// Bends such as a hand draws, through the middle of the picture.
+Cubic bend(unsigned seed) {
+    std::mt19937 random(seed);
+    const auto place = [&](CGFloat low, CGFloat high) {
+        std::uniform_real_distribution<CGFloat> coordinate(low, high);
+        return CGPoint{coordinate(random), coordinate(random)};
+    };
+    return {place(12, 22), place(8, 40), place(8, 40), place(26, 36)};
+}
+
+/// How much of each pixel the line covers, of 255, by asking many places in it how far they are
+/// from many places on the curve.
+std::vector<double> sampledCoverage(const Cubic& curve, CGFloat lineWidth) {
+    std::array<CGPoint, 200> places;
+    for (std::size_t index = 0; index < places.size(); ++index) {
+        places[index] = curve.at(static_cast<CGFloat>(index) / (places.size() - 1));
+    }
+    const auto isCovered = [&](CGPoint at) {
+        return std::ranges::any_of(places, [&](CGPoint place) {
+            const CGPoint away = place - at;
+            return away.x * away.x + away.y * away.y <= lineWidth * lineWidth / 4;
+        });
+    };
+    std::vector<double> coverage;
+    for (int y = 0; y < kSide; ++y) {
+        for (int x = 0; x < kSide; ++x) {
+            int covered = 0;
+            for (int sample = 0; sample < kSamples * kSamples; ++sample) {
+                covered += isCovered({x + (sample % kSamples + 0.5) / kSamples,
+                                      y + (sample / kSamples + 0.5) / kSamples})
+                               ? 1
+                               : 0;
+            }
+            coverage.push_back(255.0 * covered / (kSamples * kSamples));
+        }
+    }
+    return coverage;
+}
+
+class InkCoverage : public testing::TestWithParam<double> {};
+
+TEST_P(InkCoverage, a_line_of_any_width_covers_what_its_area_covers_of_each_pixel) {
+    for (unsigned seed = 0; seed < 4; ++seed) {
+        const Cubic curve = bend(seed);
+        Path path;
+        path.move(curve.start);
+        path.addCurve(curve.end, curve.control1, curve.control2);
+        std::vector<std::uint32_t> pixels(kSide * kSide);
+        paintInk(path, {0xFF000000, GetParam()}, 1, {{0, 0, kSide, kSide}, pixels.data(), kSide});
+        const auto expected = sampledCoverage(curve, GetParam());
+        double ink = 0;
+        double expectedInk = 0;
+        int touched = 0;
+        int off = 0;
+        for (std::size_t index = 0; index < pixels.size(); ++index) {
+            const double painted = pixels[index] >> 24;
+            ink += painted;
+            expectedInk += expected[index];
+            touched += expected[index] > 0 ? 1 : 0;
+            off += std::abs(painted - expected[index]) > 255 / 10.0 ? 1 : 0;
+        }
+        EXPECT_NEAR(ink / expectedInk, 1, 0.05);
+        // Where two edges meet in one pixel, the nearer one alone counts.
+        EXPECT_LE(off, touched / 8) << off << " of " << touched;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(OfWidth, InkCoverage, testing::Values(1, 1.5, 2, 3, 4, 8, 20));
+
+} // namespace
+} // namespace quillon::test
