@@ -1,6 +1,8 @@
 #include "raster/Flattening.h"
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace quillon {
 

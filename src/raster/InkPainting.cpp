@@ -2,7 +2,6 @@
 
 #include "raster/Blending.h"
 #include "raster/DistanceField.h"
-#include "raster/Flattening.h"
 
 #include <algorithm>
 #include <cmath>
@@ -73,11 +72,12 @@ public:
         std::vector<Meeting> meetings;
         meetings.reserve(lines.size());
         for (std::uint32_t line = 0; line < lines.size(); ++line) {
-            const PixelRect pixels = reachOf(lines[line], reach);
-            if (pixels.isEmpty()) {
-                continue;
-            }
-            for (int row = pixels.top / side; row <= (pixels.bottom - 1) / side; ++row) {
+            const PixelRect reached = reachOf(lines[line], reach);
+            const int lastRow = (reached.bottom - 1) / side;
+            for (int row = reached.top / side; !reached.isEmpty() && row <= lastRow; ++row) {
+                // A long line reaches a few tiles of a row alone.
+                const LinePiece part = lastRow > 0 ? inRow(lines[line], row, reach) : lines[line];
+                const PixelRect pixels = reachOf(part, reach);
                 for (int column = pixels.left / side; column <= (pixels.right - 1) / side;
                      ++column) {
                     meetings.push_back(
@@ -111,15 +111,27 @@ private:
                 whole(highY + reach + 1 - m_canvas.top, m_canvas.height())};
     }
 
+    /// The part of a line from which a row of tiles can be reached.
+    LinePiece inRow(const LinePiece& line, int row, CGFloat reach) const {
+        const CGPoint along = line.end - line.start;
+        if (along.y == 0) {
+            return line;
+        }
+        const auto at = [&](CGFloat y) {
+            return line.start + along * std::clamp((y - line.start.y) / along.y, 0.0, 1.0);
+        };
+        const CGFloat top = m_canvas.top + row * side;
+        return {at(top - reach - 1), at(top + side + reach + 1)};
+    }
+
     PixelRect m_canvas;
     int m_columns;
 };
 
 } // namespace
 
-void paintInk(const Path& path, const Ink& ink, CGFloat scale, const PixelCanvas& canvas) {
-    const std::vector<LinePiece> lines = flattened(path, scale);
-    const Coverage coverage(static_cast<float>(std::max(1.0, ink.lineWidth * scale) / 2));
+void paintInk(const std::vector<LinePiece>& lines, const Ink& ink, const PixelCanvas& canvas) {
+    const Coverage coverage(static_cast<float>(std::max(1.0, ink.lineWidth) / 2));
     const Tiling tiling(canvas.place);
     const std::vector<Meeting> meetings =
         tiling.meetings(lines, static_cast<CGFloat>(coverage.reach()));

@@ -2,10 +2,11 @@
 
 #include "foundation/Geometry.h"
 #include "platform/GraphicsContext.h"
-#include "platform/Path.h"
+#include "raster/Flattening.h"
 #include "raster/PixelCanvas.h"
 
 #include <cstdint>
+#include <vector>
 
 namespace quillon {
 
@@ -13,18 +14,17 @@ namespace quillon {
 struct Ink {
     /// 0xAARRGGBB, premultiplied.
     std::uint32_t color = 0;
-    /// In points. No line is thinner than a device pixel.
+    /// In device pixels. No line is thinner than one.
     CGFloat lineWidth = 1;
     BlendMode blendMode = BlendMode::normal;
 };
 
-/// Draws the path as a line with round caps and joins, `scale` device pixels to a point, over what
-/// stands on the canvas.
+/// Draws lines with round caps and joins over what stands on the canvas. All of them are one
+/// figure: where they meet or cross, the ink is no darker.
 ///
-/// A pixel is covered by how deep its centre lies in the line: wholly from half a pixel inside of
+/// A pixel is covered by how deep its centre lies in the figure: wholly from half a pixel inside of
 /// the edge, not at all from half a pixel outside. That depends on the distance to the nearest
-/// point of the path and on nothing else, so every part of a line has the pixels of the whole, and
-/// a line that crosses itself is no darker there.
-void paintInk(const Path& path, const Ink& ink, CGFloat scale, const PixelCanvas& canvas);
+/// line and on nothing else, so every part of a figure has the pixels of the whole.
+void paintInk(const std::vector<LinePiece>& lines, const Ink& ink, const PixelCanvas& canvas);
 
 } // namespace quillon

@@ -34,12 +34,13 @@ void fillPixels(const PixelCanvas& canvas, std::uint32_t color, BlendMode mode) 
 void drawPixels(const PixelPicture& picture, const PixelCanvas& canvas, std::uint32_t opacity,
                 BlendMode mode) {
     const PixelCanvas common = canvas.part(picture.place);
+    const bool isOpaque = opacity == opaqueAlpha;
     forEachRow(common, [&](int y, std::uint32_t* row, int width) {
         const std::uint32_t* source = picture.at(common.place.left, y);
         for (std::uint32_t* below = row; below != row + width; ++below, ++source) {
             // Most of a picture is transparent.
             if (*source != 0) {
-                *below = blended(scaled(*source, opacity), *below, mode);
+                *below = blended(isOpaque ? *source : scaled(*source, opacity), *below, mode);
             }
         }
     });

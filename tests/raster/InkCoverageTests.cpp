@@ -76,7 +76,8 @@ TEST_P(InkCoverage, a_line_of_any_width_covers_what_its_area_covers_of_each_pixe
         path.move(curve.start);
         path.addCurve(curve.end, curve.control1, curve.control2);
         std::vector<std::uint32_t> pixels(kSide * kSide);
-        paintInk(path, {0xFF000000, GetParam()}, 1, {{0, 0, kSide, kSide}, pixels.data(), kSide});
+        paintInk(flattened(path, 1), {0xFF000000, GetParam()},
+                 {{0, 0, kSide, kSide}, pixels.data(), kSide});
         const auto expected = sampledCoverage(curve, GetParam());
         double ink = 0;
         double expectedInk = 0;
