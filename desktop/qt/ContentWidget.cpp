@@ -44,6 +44,16 @@ int pointsOfWholePixels(CGFloat scale) {
     return 96;
 }
 
+/// False of a rectangle that shares pixels with its neighbours, since its edges fall inside of
+/// them.
+bool isMadeOfPixels(const QRect& rect, CGFloat scale) {
+    const auto isWhole = [scale](int points) {
+        return qAbs(points * scale - qRound(points * scale)) < 1e-4;
+    };
+    return isWhole(rect.x()) && isWhole(rect.y()) && isWhole(rect.width()) &&
+           isWhole(rect.height());
+}
+
 } // namespace
 
 ContentWidget::ContentWidget(xcb_connection_t* connection, std::function<void()> onPress)
@@ -159,23 +169,26 @@ void ContentWidget::paintEvent(QPaintEvent* event) {
 }
 
 void ContentWidget::paintRegion(QPainter& painter, const QRegion& region) {
+    const CGFloat scale = devicePixelRatio();
     QPaintDevice* const device = painter.paintEngine()->paintDevice();
     const bool isOnStore = backingStore() && device == backingStore()->paintDevice();
     const auto canvas = isOnStore && isComposited() ? canvasOf(*device) : std::nullopt;
     for (const QRect& rect : region) {
-        if (canvas) {
+        if (canvas && isMadeOfPixels(rect, scale)) {
             paintContent(*canvas, rect);
             continue;
         }
+        const QRect pixels = devicePixels(fromQRectF(rect), scale);
         QImage picture = painted(rect);
         if (m_inkMask) {
-            m_inkMask->replace(devicePixels(fromQRectF(rect), devicePixelRatio()).topLeft(),
-                               picture);
+            m_inkMask->replace(pixels.topLeft(), picture);
             // The server would show what is left of a translucent colour, as if it lay on black.
             picture.convertTo(QImage::Format_RGB32);
         }
-        picture.setDevicePixelRatio(devicePixelRatio());
-        painter.drawImage(rect.topLeft(), picture);
+        painter.setClipRect(rect);
+        painter.setWorldTransform(QTransform::fromScale(1 / scale, 1 / scale));
+        painter.drawImage(pixels.topLeft(), picture);
+        painter.resetTransform();
     }
 }
 

@@ -47,8 +47,8 @@ QPainterPath toQPainterPath(const Path& path) {
 }
 
 QPen toQPen(const Color& color, const StrokeStyle& style, CGFloat scale) {
-    // A line no wider than a pixel goes another way through the toolkit, on which a part of it that
-    // is painted by itself does not get the pixels that it has in the whole.
+    // A line no wider than a pixel goes another way through the toolkit, with edges of another
+    // kind.
     const CGFloat smallestWidth = 1.001 / scale;
     return QPen(toQColor(color), std::max(style.lineWidth, smallestWidth), Qt::SolidLine,
                 style.lineCap == LineCap::round ? Qt::RoundCap : Qt::FlatCap,

@@ -11,6 +11,7 @@
 
 #include <QFontMetricsF>
 
+#include <algorithm>
 #include <utility>
 
 namespace quillon::desktop {
@@ -23,7 +24,7 @@ QPainter::CompositionMode compositionMode(BlendMode mode) {
 }
 
 std::uint32_t wholeOpacity(double opacity) {
-    return static_cast<std::uint32_t>(qRound(opacity * opaqueAlpha));
+    return static_cast<std::uint32_t>(qRound(std::clamp(opacity, 0.0, 1.0) * opaqueAlpha));
 }
 
 } // namespace
@@ -86,9 +87,9 @@ void QtGraphicsContext::stroke(const Path& path, const Color& color, const Strok
         painter().strokePath(toQPainterPath(path), toQPen(color, style, m_scale));
         return;
     }
-    const Ink ink{premultipliedPixel(color, m_opacity), style.lineWidth, m_blendMode};
-    forEachPart(m_canvas.place,
-                [&](const PixelCanvas& canvas) { paintInk(path, ink, m_scale, canvas); });
+    const auto lines = flattened(path, m_scale);
+    const Ink ink{premultipliedPixel(color, m_opacity), style.lineWidth * m_scale, m_blendMode};
+    forEachPart(m_canvas.place, [&](const PixelCanvas& canvas) { paintInk(lines, ink, canvas); });
 }
 
 void QtGraphicsContext::strokeWithShadow(const Path& path, const Color& color,

@@ -16,12 +16,12 @@ namespace quillon::desktop {
 
 class QtLayer;
 
-/// Draws into pixels. Lines with round ends, bitmaps and whole pixels it draws by itself; for
-/// everything else it opens a QPainter, which costs more than many a line.
+/// Draws into pixels. Lines with round caps and joins, bitmaps and whole pixels it draws by itself;
+/// for everything else it opens a QPainter, which costs more than many a line.
 class QtGraphicsContext : public GraphicsContext {
 public:
-    /// Draws nowhere but in `clip`, which is made of the canvas's device pixels; `scale` is the
-    /// number of device pixels to a point.
+    /// Draws nowhere but in `clip`, in device pixels of the view, as far as the canvas goes;
+    /// `scale` is the number of device pixels to a point.
     QtGraphicsContext(const PixelCanvas& canvas, QRegion clip, CGFloat scale);
     ~QtGraphicsContext() override;
 

@@ -201,7 +201,7 @@ TEST_P(PaintedParts, of_any_stroke_each_part_has_the_pixels_of_the_whole) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(AtEachScale, PaintedParts, testing::Values(1.0, 1.25, 2.0));
+INSTANTIATE_TEST_SUITE_P(AtEachScale, PaintedParts, testing::Values(1.0, 1.25, 1.5, 2.0));
 
 } // namespace
 } // namespace quillon::desktop
