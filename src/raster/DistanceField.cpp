@@ -9,6 +9,8 @@ namespace quillon {
 namespace {
 
 constexpr float kFar = std::numeric_limits<float>::max();
+/// Below this the core of a line is too small to be worth a look.
+constexpr float kSmallestCore = 4;
 
 // Unlike those of the library these take several at once. The second one where there is no number.
 float lower(float a, float b) {
@@ -59,16 +61,38 @@ void keepNearest(float* squares, int count, int firstPixel, float y, const Ray& 
     }
 }
 
+/// The blocks of a row that lie in the core of a line for sure: between two round ends that both
+/// meet the row there is nothing but the line. `y` is as above; `startX` is the place of the start
+/// in the row, where a pixel has the place of its centre.
+DistanceField::Span coreOf(const Ray& line, float core, float y, float startX, int width) {
+    constexpr int block = DistanceField::block;
+    // A little less, so that no rounding makes a difference.
+    const float square = (core - 0.1F) * (core - 0.1F);
+    const float atStart = square - y * y;
+    const float atEnd = square - (y - line.alongY) * (y - line.alongY);
+    if (core < kSmallestCore || atStart <= 0 || atEnd <= 0) {
+        return {};
+    }
+    const float halfAtStart = std::sqrt(atStart);
+    const float halfAtEnd = std::sqrt(atEnd);
+    const float left = startX + lower(-halfAtStart, line.alongX - halfAtEnd);
+    const float right = startX + higher(halfAtStart, line.alongX + halfAtEnd);
+    return {(wholePixels(left, width) + block) / block * block,
+            wholePixels(right, width) / block * block};
+}
+
 } // namespace
 
-DistanceField::DistanceField(const PixelRect& area)
+DistanceField::DistanceField(const PixelRect& area, Range range)
     : m_area(area)
-    , m_rowLength((area.width() + kBlock - 1) / kBlock * kBlock) {
+    , m_range(range)
+    , m_rowLength((area.width() + block - 1) / block * block) {
     std::fill_n(m_squares.begin(), m_rowLength * area.height(), kFar);
 }
 
-void DistanceField::add(const LinePiece& line, float reach) {
+void DistanceField::add(const LinePiece& line) {
     const Ray ray(line);
+    const float reach = m_range.outer;
     // From the edges of the area, to which pixel the ink comes: a pixel is where its centre is.
     const float startX = ray.startX - static_cast<float>(m_area.left) - 0.5F;
     const float startY = ray.startY - static_cast<float>(m_area.top) - 0.5F;
@@ -95,10 +119,20 @@ void DistanceField::add(const LinePiece& line, float reach) {
         Span& span = m_spans[static_cast<std::size_t>(row)];
         span = {std::min(span.first, first), std::max(span.last, last)};
         // Up to three more are no harm: rows have room for whole blocks.
-        const int firstOfBlock = first / kBlock * kBlock;
-        const int count = (last - firstOfBlock + kBlock - 1) / kBlock * kBlock;
-        keepNearest(m_squares.data() + row * m_rowLength + firstOfBlock, count,
-                    m_area.left + firstOfBlock, y, ray);
+        const int firstOfBlock = first / block * block;
+        const int lastOfBlock = (last + block - 1) / block * block;
+        float* const squares = m_squares.data() + row * m_rowLength;
+        const auto keep = [&](int from, int to) {
+            keepNearest(squares + from, to - from, m_area.left + from, y, ray);
+        };
+        const Span core = coreOf(ray, m_range.inner, y, startX, m_area.width());
+        if (core.first >= core.last) {
+            keep(firstOfBlock, lastOfBlock);
+        } else {
+            keep(firstOfBlock, core.first);
+            std::fill(squares + core.first, squares + core.last, 0.0F);
+            keep(core.last, lastOfBlock);
+        }
     }
 }
 

@@ -15,12 +15,21 @@ class DistanceField {
 public:
     /// The largest width and height of the area.
     static constexpr int side = 64;
+    /// So many neighbours are computed in one go.
+    static constexpr int block = 4;
+
+    /// Which distances are of interest.
+    struct Range {
+        /// What is nearer may be taken for nothing, by which of the lines it may be.
+        float inner = 0;
+        /// What is farther away need not be looked at.
+        float outer = 0;
+    };
 
     /// No line is near.
-    explicit DistanceField(const PixelRect& area);
+    DistanceField(const PixelRect& area, Range range);
 
-    /// Takes a line into account. Only what is nearer to it than `reach` is sure to be looked at.
-    void add(const LinePiece& line, float reach);
+    void add(const LinePiece& line);
 
     const PixelRect& area() const { return m_area; }
 
@@ -36,10 +45,8 @@ public:
     const float* squares(int row) const { return m_squares.data() + row * m_rowLength; }
 
 private:
-    /// So many neighbours are computed in one go.
-    static constexpr int kBlock = 4;
-
     PixelRect m_area;
+    Range m_range;
     int m_rowLength;
     std::array<Span, side> m_spans;
     alignas(32) std::array<float, std::size_t{side} * side> m_squares;

@@ -20,7 +20,8 @@ public:
         , m_outerSquare(m_outer * m_outer)
         , m_innerSquare((radius - 0.5F) * (radius - 0.5F)) {}
 
-    float reach() const { return m_outer; }
+    /// Between which distances it matters how far a line is.
+    DistanceField::Range range() const { return {m_outer - 1, m_outer}; }
 
     std::uint32_t at(float square) const {
         if (square >= m_outerSquare) {
@@ -134,12 +135,12 @@ void paintInk(const std::vector<LinePiece>& lines, const Ink& ink, const PixelCa
     const Coverage coverage(static_cast<float>(std::max(1.0, ink.lineWidth) / 2));
     const Tiling tiling(canvas.place);
     const std::vector<Meeting> meetings =
-        tiling.meetings(lines, static_cast<CGFloat>(coverage.reach()));
+        tiling.meetings(lines, static_cast<CGFloat>(coverage.range().outer));
     for (auto next = meetings.begin(); next != meetings.end();) {
         const std::uint32_t tile = next->tile;
-        DistanceField field(tiling.area(tile));
+        DistanceField field(tiling.area(tile), coverage.range());
         for (; next != meetings.end() && next->tile == tile; ++next) {
-            field.add(lines[next->line], coverage.reach());
+            field.add(lines[next->line]);
         }
         fill(field, coverage, ink, canvas);
     }

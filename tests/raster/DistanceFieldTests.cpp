@@ -57,9 +57,9 @@ TEST(DistanceField, every_pixel_within_reach_has_its_distance_from_the_nearest_l
         const PixelRect area{7 + round % 9, 3, 50 + round % 21, 61};
         const std::vector<LinePiece> lines{random.next(), random.next(), random.next()};
         const float reach = 0.5F + static_cast<float>(round % 12);
-        DistanceField field(area);
+        DistanceField field(area, {0, reach});
         for (const LinePiece& line : lines) {
-            field.add(line, reach);
+            field.add(line);
         }
         for (int y = area.top; y < area.bottom; ++y) {
             for (int x = area.left; x < area.right; ++x) {
@@ -83,12 +83,12 @@ TEST(DistanceField, a_pixel_has_the_same_value_whatever_the_area_and_the_order_o
     for (int round = 0; round < 40; ++round) {
         const LinePiece one = random.next();
         const LinePiece other = random.next();
-        DistanceField wide({0, 0, 64, 64});
-        wide.add(one, 5);
-        wide.add(other, 5);
-        DistanceField narrow({13, 21, 40, 60});
-        narrow.add(other, 5);
-        narrow.add(one, 5);
+        DistanceField wide({0, 0, 64, 64}, {0, 5});
+        wide.add(one);
+        wide.add(other);
+        DistanceField narrow({13, 21, 40, 60}, {0, 5});
+        narrow.add(other);
+        narrow.add(one);
         for (int y = 21; y < 60; ++y) {
             for (int x = 13; x < 40; ++x) {
                 if (squareAt(narrow, x, y) < 24.9) {
@@ -99,21 +99,47 @@ TEST(DistanceField, a_pixel_has_the_same_value_whatever_the_area_and_the_order_o
     }
 }
 
+TEST(DistanceField,
+     what_lies_in_the_core_of_a_line_may_be_taken_for_nothing_and_the_rest_is_as_it_is) {
+    RandomLines random;
+    for (int round = 0; round < 60; ++round) {
+        const LinePiece one = random.next();
+        const LinePiece other = random.next();
+        const PixelRect area{round % 9, 5, 64, 60};
+        DistanceField exact(area, {0, 13});
+        DistanceField cored(area, {12, 13});
+        for (const LinePiece& line : {one, other}) {
+            exact.add(line);
+            cored.add(line);
+        }
+        for (int y = area.top; y < area.bottom; ++y) {
+            for (int x = area.left; x < area.right; ++x) {
+                const double square = squareAt(exact, x, y);
+                if (square > 144) {
+                    ASSERT_EQ(squareAt(cored, x, y), square);
+                } else {
+                    ASSERT_LE(squareAt(cored, x, y), square);
+                }
+            }
+        }
+    }
+}
+
 TEST(DistanceField, with_no_line_in_reach_nothing_is_looked_at) {
-    DistanceField field({0, 0, 10, 10});
-    field.add({{-50, -50}, {-40, 80}}, 5);
-    field.add({{-50, 30}, {50, 30}}, 5);
+    DistanceField field({0, 0, 10, 10}, {0, 5});
+    field.add({{-50, -50}, {-40, 80}});
+    field.add({{-50, 30}, {50, 30}});
     for (int row = 0; row < 10; ++row) {
         EXPECT_GE(field.span(row).first, field.span(row).last);
     }
 }
 
 TEST(DistanceField, a_line_far_longer_than_a_screen_is_no_harm) {
-    DistanceField field({0, 0, 64, 64});
-    field.add({{-4e4, 32}, {4e4, 32}}, 3);
+    DistanceField field({0, 0, 64, 64}, {0, 3});
+    field.add({{-4e4, 32}, {4e4, 32}});
     EXPECT_NEAR(squareAt(field, 10, 33), 2.25, 0.1);
-    field.add({{1e6, -1e6}, {-1e6, 1e6}}, 3);
-    field.add({{0, 1e6}, {1e6, 1e6}}, 3);
+    field.add({{1e6, -1e6}, {-1e6, 1e6}});
+    field.add({{0, 1e6}, {1e6, 1e6}});
     EXPECT_NEAR(squareAt(field, 10, 33), 2.25, 0.1);
 }
 
