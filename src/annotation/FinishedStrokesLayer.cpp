@@ -18,8 +18,8 @@ constexpr CGFloat kFullTile =
 /// What a rectangle costs to show besides its pixels, in pixels.
 constexpr CGFloat kPixelsForRect = 1024;
 
-/// To draw this much takes at most a tenth of a millisecond, and so does the look at so many
-/// strokes.
+/// To draw this much of a common pen takes less than a tenth of a millisecond, the look at so many
+/// strokes about one.
 constexpr StrokeWalk::Budget kStep{.looks = 1000, .segments = 32};
 
 Damage damageOf(const std::vector<CGRect>& rects) {
