@@ -34,7 +34,7 @@ constexpr double kLessThanProjecteur = 15;
 constexpr double kMilliseconds = 1000;
 constexpr std::chrono::milliseconds kPause{10};
 constexpr std::chrono::seconds kTimeToSettle{1};
-constexpr std::chrono::seconds kPatience{2};
+constexpr std::chrono::seconds kPatience{4};
 constexpr int kTriesOfProjecteur = 4;
 constexpr int kMovesOfOneWay = 100;
 constexpr test::Pixel kStep{7, 3};
