@@ -26,7 +26,7 @@ constexpr int kPointsOfShortStroke = 5;
 constexpr int kReach = 12;
 constexpr int kPointsOfEraser = 200;
 /// How many strokes are sent before the program has to have drawn them.
-constexpr int kStrokesInFlight = 500;
+constexpr int kStrokesInFlight = 2000;
 
 /// Where the palette stands, and the middle of its first control.
 constexpr Pixel kPalette{1650, 60};
