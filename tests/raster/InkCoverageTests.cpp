@@ -45,23 +45,31 @@ std::vector<double> sampledCoverage(const Cubic& curve, CGFloat lineWidth) {
     for (std::size_t index = 0; index < places.size(); ++index) {
         places[index] = curve.at(static_cast<CGFloat>(index) / (places.size() - 1));
     }
-    const auto isCovered = [&](CGPoint at) {
-        return std::ranges::any_of(places, [&](CGPoint place) {
+    const auto distanceOf = [&](CGPoint at) {
+        CGFloat nearest = HUGE_VAL;
+        for (const CGPoint place : places) {
             const CGPoint away = place - at;
-            return away.x * away.x + away.y * away.y <= lineWidth * lineWidth / 4;
-        });
+            nearest = std::min(nearest, away.x * away.x + away.y * away.y);
+        }
+        return std::sqrt(nearest);
+    };
+    const auto share = [&](int x, int y) {
+        int covered = 0;
+        for (int sample = 0; sample < kSamples * kSamples; ++sample) {
+            const CGPoint at{x + (sample % kSamples + 0.5) / kSamples,
+                             y + (sample / kSamples + 0.5) / kSamples};
+            covered += distanceOf(at) <= lineWidth / 2 ? 1 : 0;
+        }
+        return 255.0 * covered / (kSamples * kSamples);
     };
     std::vector<double> coverage;
     for (int y = 0; y < kSide; ++y) {
         for (int x = 0; x < kSide; ++x) {
-            int covered = 0;
-            for (int sample = 0; sample < kSamples * kSamples; ++sample) {
-                covered += isCovered({x + (sample % kSamples + 0.5) / kSamples,
-                                      y + (sample / kSamples + 0.5) / kSamples})
-                               ? 1
-                               : 0;
-            }
-            coverage.push_back(255.0 * covered / (kSamples * kSamples));
+            // No place in a pixel is farther from its middle than this.
+            constexpr CGFloat halfDiagonal = 0.71;
+            const CGFloat depth = lineWidth / 2 - distanceOf({x + 0.5, y + 0.5});
+            const bool isAtEdge = std::abs(depth) <= halfDiagonal;
+            coverage.push_back(isAtEdge ? share(x, y) : depth > 0 ? 255 : 0);
         }
     }
     return coverage;
