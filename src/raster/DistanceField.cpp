@@ -12,7 +12,8 @@ constexpr float kFar = std::numeric_limits<float>::max();
 /// Below this the core of a line is too small to be worth a look.
 constexpr float kSmallestCore = 4;
 
-// Unlike those of the library these take several at once. The second one where there is no number.
+// Unlike those of the library these become one instruction for several neighbours. Of what is no
+// number the answer is the second.
 float lower(float a, float b) {
     return a < b ? a : b;
 }

@@ -20,7 +20,7 @@ public:
 
     /// Which distances are of interest.
     struct Range {
-        /// What is nearer may be taken for nothing, by which of the lines it may be.
+        /// What is nearer than this to one of the lines may have any distance below it.
         float inner = 0;
         /// What is farther away need not be looked at.
         float outer = 0;
