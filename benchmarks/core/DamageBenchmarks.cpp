@@ -1,5 +1,3 @@
-#include "annotation/Eraser.h"
-#include "annotation/FinishedStrokesLayer.h"
 #include "annotation/LiveStrokeLayer.h"
 #include "benchmarks/core/Pages.h"
 #include "desktop/qt/QtGraphics.h"
@@ -12,16 +10,11 @@ namespace {
 
 /// What an update marks to be painted anew, none of which is painted here.
 void sweepMarked(benchmark::State& state) {
-    const StrokeList& page = pageOf(sizeOfPage(state));
-    StrokeList erased = page;
-    processEraser(eraserSweep(), erased);
-    desktop::QtGraphics graphics;
-    FinishedStrokesLayer layer(graphics);
-    layer.layout(kPageSize, 1);
-    layer.update(page, {});
+    SweptPage swept(sizeOfPage(state));
+    swept.layer.update(swept.page, {});
     for (auto _ : state) {
-        layer.update(erased, {});
-        layer.update(page, {});
+        swept.layer.update(swept.erased, {});
+        swept.layer.update(swept.page, {});
     }
 }
 BENCHMARK(sweepMarked)->Name("damage of an eraser sweep and its undo")->Apply(forEachPage);

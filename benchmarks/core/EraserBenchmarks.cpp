@@ -39,25 +39,20 @@ BENCHMARK(sweepShown)->Name("eraser sweep and its undo, painted")->Apply(forEach
 /// What a motion of the pen waits for, when it comes in the middle of that repaint.
 void sweepSteps(benchmark::State& state) {
     using Clock = std::chrono::steady_clock;
-    const StrokeList& page = pageOf(sizeOfPage(state));
-    StrokeList erased = page;
-    processEraser(eraserSweep(), erased);
-    desktop::QtGraphics graphics;
-    FinishedStrokesLayer layer(graphics);
-    layer.layout(kPageSize, 1);
+    SweptPage swept(sizeOfPage(state));
     // The first one warms up.
-    showAll(layer, erased);
-    showAll(layer, page);
+    showAll(swept.layer, swept.erased);
+    showAll(swept.layer, swept.page);
     for (auto _ : state) {
-        layer.update(erased, {});
+        swept.layer.update(swept.erased, {});
         Samples steps;
-        while (layer.isBehind()) {
+        while (swept.layer.isBehind()) {
             const auto start = Clock::now();
-            layer.repaintStep();
+            swept.layer.repaintStep();
             steps.add(std::chrono::duration<double>(Clock::now() - start).count());
         }
         state.SetIterationTime(steps.percentile(99));
-        showAll(layer, page);
+        showAll(swept.layer, swept.page);
     }
 }
 BENCHMARK(sweepSteps)

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "annotation/Eraser.h"
 #include "annotation/FinishedStrokesLayer.h"
 #include "benchmarks/core/Page.h"
+#include "desktop/qt/QtGraphics.h"
 
 #include <benchmark/benchmark.h>
 
@@ -42,6 +44,21 @@ inline void showAll(FinishedStrokesLayer& layer, const StrokeList& strokes) {
         layer.repaintStep();
     }
 }
+
+/// A page with what an eraser pass leaves of it, and a layer that can show both.
+struct SweptPage {
+    explicit SweptPage(std::size_t strokes)
+        : page(pageOf(strokes))
+        , erased(page) {
+        processEraser(eraserSweep(), erased);
+        layer.layout(kPageSize, 1);
+    }
+
+    const StrokeList& page;
+    StrokeList erased;
+    desktop::QtGraphics graphics;
+    FinishedStrokesLayer layer{graphics};
+};
 
 inline std::size_t sizeOfPage(const benchmark::State& state) {
     return static_cast<std::size_t>(state.range());

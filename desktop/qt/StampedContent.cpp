@@ -2,8 +2,7 @@
 
 #include "desktop/qt/QtBitmap.h"
 #include "desktop/qt/QtConversions.h"
-
-#include <QRgba64>
+#include "raster/Blending.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -25,7 +24,7 @@ bool StampedContent::put(xcb_window_t window, const StampedPicture& picture,
     }
     const QPoint corner = (toQPointF(picture.corner) * picture.stamp->scale()).toPoint();
     const QRect stamp(corner, imageOf(*picture.stamp).size());
-    const std::uint32_t ground = toQColor(picture.ground).rgba64().premultiplied().toArgb32();
+    const std::uint32_t ground = premultipliedPixel(picture.ground, 1);
     for (const QRect& rect : pixels - stamp) {
         m_serverPicture.fill(window, ground, toXRectangle(rect));
     }

@@ -1,4 +1,5 @@
 #include "platform/Path.h"
+#include "support/Curves.h"
 
 #include <gtest/gtest.h>
 
@@ -12,13 +13,6 @@ namespace quillon::test {
 namespace {
 
 using Verb = Path::Verb;
-
-/// A point of a cubic curve.
-CGPoint onCurve(CGPoint start, CGPoint control1, CGPoint control2, CGPoint end, double t) {
-    const double u = 1 - t;
-    return start * (u * u * u) + control1 * (3 * u * u * t) + control2 * (3 * u * t * t) +
-           end * (t * t * t);
-}
 
 struct Cubic {
     CGPoint start;

@@ -1,4 +1,5 @@
 #include "raster/DistanceField.h"
+#include "raster/LineDistance.h"
 
 #include <gtest/gtest.h>
 
@@ -17,15 +18,6 @@ double squareAt(const DistanceField& field, int x, int y) {
     const auto [first, last] = field.span(row);
     const bool isLookedAt = column >= first && column < last;
     return isLookedAt ? static_cast<double>(field.squares(row)[column]) : HUGE_VAL;
-}
-
-double distanceOf(const LinePiece& line, CGPoint place) {
-    const CGPoint along = line.end - line.start;
-    const CGPoint to = place - line.start;
-    const CGFloat square = along.x * along.x + along.y * along.y;
-    const CGFloat part =
-        square > 0 ? std::clamp((to.x * along.x + to.y * along.y) / square, 0.0, 1.0) : 0;
-    return distance(place, line.start + along * part);
 }
 
 class RandomLines {

@@ -1,4 +1,6 @@
 #include "raster/Flattening.h"
+#include "raster/LineDistance.h"
+#include "support/Curves.h"
 
 #include <gtest/gtest.h>
 
@@ -12,20 +14,10 @@ namespace {
 
 CGFloat distanceTo(const std::vector<LinePiece>& lines, CGPoint place) {
     CGFloat nearest = std::numeric_limits<CGFloat>::max();
-    for (const auto& [start, end] : lines) {
-        const CGPoint along = end - start;
-        const CGPoint to = place - start;
-        const CGFloat square = along.x * along.x + along.y * along.y;
-        const CGFloat part =
-            square > 0 ? std::clamp((to.x * along.x + to.y * along.y) / square, 0.0, 1.0) : 0;
-        nearest = std::min(nearest, distance(place, start + along * part));
+    for (const LinePiece& line : lines) {
+        nearest = std::min(nearest, distanceOf(line, place));
     }
     return nearest;
-}
-
-CGPoint onCurve(CGPoint a, CGPoint b, CGPoint c, CGPoint d, CGFloat t) {
-    const CGFloat s = 1 - t;
-    return a * (s * s * s) + b * (3 * s * s * t) + c * (3 * s * t * t) + d * (t * t * t);
 }
 
 TEST(Flattening, straight_lines_stay_as_they_are_in_device_pixels) {

@@ -1,4 +1,5 @@
 #include "raster/InkPainting.h"
+#include "support/Curves.h"
 
 #include <gtest/gtest.h>
 
@@ -21,11 +22,7 @@ struct Cubic {
     CGPoint control2;
     CGPoint end;
 
-    CGPoint at(CGFloat t) const {
-        const CGFloat s = 1 - t;
-        return start * (s * s * s) + control1 * (3 * s * s * t) + control2 * (3 * s * t * t) +
-               end * (t * t * t);
-    }
+    CGPoint at(CGFloat t) const { return onCurve(start, control1, control2, end, t); }
 };
 
 /// Bends such as a hand draws, through the middle of the picture.
