@@ -65,6 +65,10 @@ protected:
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    /// The picture does not depend on the keyboard, for which the toolkit would paint all of it
+    /// anew.
+    void focusInEvent(QFocusEvent* /*event*/) override {}
+    void focusOutEvent(QFocusEvent* /*event*/) override {}
     bool nativeEvent(const QByteArray& kind, void* message, qintptr* result) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
