@@ -3,6 +3,7 @@
 //
 //     idle-wakeups [--rounds 3] [--seconds 30] [--rows]
 
+#include "benchmarks/Peers.h"
 #include "benchmarks/Pens.h"
 #include "benchmarks/ProcessUsage.h"
 #include "benchmarks/Projecteur.h"
@@ -47,7 +48,6 @@ public:
 
     const std::string& name() const { return m_name; }
     virtual pid_t process() = 0;
-    virtual bool isPeer() const { return true; }
     /// Whether it is the program of this project, with nothing switched on.
     virtual bool hasTargets() const { return false; }
 
@@ -71,7 +71,6 @@ public:
     }
 
     pid_t process() override { return m_program.process().pid(); }
-    bool isPeer() const override { return false; }
     bool hasTargets() const override { return m_isOff; }
 
     /// Switches a feature on or off by the last key of its shortcut.
@@ -146,102 +145,167 @@ std::unique_ptr<Sleeper> drawing() {
     return program;
 }
 
-using Make = std::function<std::unique_ptr<Sleeper>()>;
+/// What is measured, and how it is started.
+struct Candidate {
+    std::function<std::unique_ptr<Sleeper>()> start;
+    /// The name under which it is installed; empty for the program of this project.
+    std::string peer = {};
 
-std::vector<Make> peers() {
-    std::vector<Make> all;
-    for (const PenProgram& program : penPrograms()) {
-        if (program.role == PenProgram::Role::peer) {
-            all.emplace_back([program] { return std::make_unique<Peer>(program); });
+    /// A peer may fail, for this round; the program of this project may not.
+    void attempt(const Round& round, const std::function<void()>& measure) const {
+        if (peer.empty()) {
+            measure();
+        } else {
+            measurePeer(peer, round, measure);
         }
-    }
-    if (Projecteur::isInstalled()) {
-        all.emplace_back([] { return std::make_unique<SleepingProjecteur>(); });
-    }
-    return all;
-}
-
-/// What a program held in memory in each round, in megabytes.
-struct Held {
-    std::string name;
-    bool hasTargets = false;
-    bool isPeer = false;
-    std::vector<double> resident = {};
-    std::vector<double> unique = {};
-
-    void add(const ProcessMemory& memory) {
-        constexpr double kilobytes = 1024;
-        resident.push_back(static_cast<double>(memory.resident) / kilobytes);
-        unique.push_back(static_cast<double>(memory.unique) / kilobytes);
     }
 };
 
-/// Peers stand beside `own` as well.
-void print(Report& report, const Held& held, const Held& own) {
-    const auto add = [&](const std::string& kind, const std::vector<double>& amounts,
-                         const std::vector<double>& base, double most) {
-        const std::string figure = held.name + ": " + kind;
-        report.add({"memory", figure, "MB", amounts,
-                    held.hasTargets ? std::optional(atMost(most)) : std::nullopt});
-        if (held.isPeer) {
-            report.add({"memory", figure + " ÷ " + own.name, "×", ratios(amounts, base)});
+std::vector<Candidate> peers() {
+    std::vector<Candidate> all;
+    for (const PenProgram& program : penPrograms()) {
+        if (program.role == PenProgram::Role::peer) {
+            all.push_back({[program] { return std::make_unique<Peer>(program); }, program.name});
+        }
+    }
+    all.push_back({[] { return std::make_unique<SleepingProjecteur>(); }, "projecteur"});
+    return all;
+}
+
+/// What a program held in memory in each round.
+class Held {
+public:
+    /// `own` is what the program of this project held in the same round.
+    void add(const Sleeper& sleeper, const ProcessMemory& memory, const ProcessMemory& own) {
+        m_name = sleeper.name();
+        m_hasTargets = sleeper.hasTargets();
+        m_resident.add(memory.resident, own.resident);
+        m_unique.add(memory.unique, own.unique);
+    }
+
+    void report(Report& report, const std::string& peer) const {
+        reportKind(report, peer, "RSS", m_resident, kMostResident);
+        reportKind(report, peer, "USS", m_unique, kMostUnique);
+    }
+
+private:
+    struct Amounts {
+        std::vector<double> megabytes = {};
+        std::vector<double> timesOwn = {};
+
+        void add(long kilobytes, long own) {
+            megabytes.push_back(static_cast<double>(kilobytes) / 1024);
+            timesOwn.push_back(static_cast<double>(kilobytes) / static_cast<double>(own));
         }
     };
-    add("RSS", held.resident, own.resident, kMostResident);
-    add("USS", held.unique, own.unique, kMostUnique);
-}
+
+    void reportKind(Report& report, const std::string& peer, const std::string& kind,
+                    const Amounts& amounts, double most) const {
+        if (amounts.megabytes.empty()) {
+            return;
+        }
+        const std::string figure = m_name + ": " + kind;
+        report.add({"memory", figure, "MB", amounts.megabytes,
+                    m_hasTargets ? std::optional(atMost(most)) : std::nullopt});
+        if (!peer.empty()) {
+            report.add({"memory", figure + " ÷ quillon-mark", "×", amounts.timesOwn});
+        }
+    }
+
+    std::string m_name;
+    bool m_hasTargets = false;
+    Amounts m_resident;
+    Amounts m_unique;
+};
 
 /// One after the other: what two programs share counts for neither as its own. The first one is
 /// what its peers are compared with.
-void measureMemory(Report& report, const std::vector<Make>& programs, int rounds) {
-    std::vector<Held> all(programs.size());
-    for (int round = 0; round < rounds; ++round) {
-        for (std::size_t index = 0; index < programs.size(); ++index) {
-            const auto sleeper = programs[index]();
-            std::this_thread::sleep_for(kSettling);
-            all[index].name = sleeper->name();
-            all[index].hasTargets = sleeper->hasTargets();
-            all[index].isPeer = sleeper->isPeer();
-            all[index].add(ProcessMemory::of(sleeper->process()));
+void measureMemory(Report& report, const std::vector<Candidate>& candidates, int rounds) {
+    std::vector<Held> all(candidates.size());
+    for (int round = 1; round <= rounds; ++round) {
+        std::optional<ProcessMemory> own;
+        for (std::size_t index = 0; index < candidates.size(); ++index) {
+            candidates[index].attempt({"memory", round}, [&] {
+                const auto sleeper = candidates[index].start();
+                std::this_thread::sleep_for(kSettling);
+                const auto memory = ProcessMemory::of(sleeper->process());
+                if (!own) {
+                    own = memory;
+                }
+                all[index].add(*sleeper, memory, *own);
+            });
         }
     }
-    for (const Held& each : all) {
-        print(report, each, all.front());
+    for (std::size_t index = 0; index < candidates.size(); ++index) {
+        all[index].report(report, candidates[index].peer);
     }
 }
 
-/// All at the same time: who sleeps is not disturbed by others that do. They are started once: a
-/// program that rests goes on resting from round to round.
-void countWakeUps(Report& report, const std::vector<Make>& programs, int rounds, int seconds) {
-    struct Counted {
-        std::unique_ptr<Sleeper> sleeper;
-        std::vector<double> wakeUps = {};
-        std::vector<double> ticks = {};
-    };
-    std::vector<Counted> all;
-    for (const Make& make : programs) {
-        all.push_back({make()});
+/// What a program at rest did in each round. It is started once: it goes on resting from round to
+/// round.
+class Counted {
+public:
+    explicit Counted(Candidate candidate)
+        : m_candidate(std::move(candidate)) {
+        m_candidate.attempt({kSubject, 1}, [this] { m_sleeper = m_candidate.start(); });
     }
-    for (int round = 0; round < rounds; ++round) {
+
+    void beginRound(int round) {
+        m_before.reset();
+        if (m_sleeper) {
+            m_candidate.attempt({kSubject, round},
+                                [this] { m_before = ProcessUsage::of(m_sleeper->process()); });
+        }
+    }
+
+    void endRound(int round) {
+        if (m_before) {
+            m_candidate.attempt({kSubject, round}, [this] {
+                const auto used = ProcessUsage::of(m_sleeper->process()).since(*m_before);
+                m_wakeUps.push_back(static_cast<double>(used.contextSwitches));
+                m_ticks.push_back(static_cast<double>(used.processorTicks));
+            });
+        }
+    }
+
+    void report(Report& report, const std::string& span) const {
+        if (m_wakeUps.empty()) {
+            return;
+        }
+        const auto none = m_sleeper->hasTargets() ? std::optional(atMost(0)) : std::nullopt;
+        report.add({kSubject, m_sleeper->name() + ": wake-ups" + span, "", m_wakeUps, none});
+        report.add({kSubject, m_sleeper->name() + ": processor ticks" + span, "", m_ticks, none});
+    }
+
+private:
+    static constexpr const char* kSubject = "idle";
+
+    Candidate m_candidate;
+    std::unique_ptr<Sleeper> m_sleeper;
+    std::optional<ProcessUsage> m_before;
+    std::vector<double> m_wakeUps;
+    std::vector<double> m_ticks;
+};
+
+/// All at the same time: who sleeps is not disturbed by others that do.
+void countWakeUps(Report& report, const std::vector<Candidate>& candidates, int rounds,
+                  int seconds) {
+    std::vector<std::unique_ptr<Counted>> all;
+    for (const Candidate& candidate : candidates) {
+        all.push_back(std::make_unique<Counted>(candidate));
+    }
+    for (int round = 1; round <= rounds; ++round) {
         std::this_thread::sleep_for(kSettling);
-        std::vector<ProcessUsage> before;
         for (const auto& each : all) {
-            before.push_back(ProcessUsage::of(each.sleeper->process()));
+            each->beginRound(round);
         }
         std::this_thread::sleep_for(std::chrono::seconds(seconds));
-        for (std::size_t index = 0; index < all.size(); ++index) {
-            Counted& each = all[index];
-            const ProcessUsage used =
-                ProcessUsage::of(each.sleeper->process()).since(before[index]);
-            each.wakeUps.push_back(static_cast<double>(used.contextSwitches));
-            each.ticks.push_back(static_cast<double>(used.processorTicks));
+        for (const auto& each : all) {
+            each->endRound(round);
         }
     }
-    const std::string span = " in " + std::to_string(seconds) + " s";
-    for (const auto& [sleeper, wakeUps, ticks] : all) {
-        const auto none = sleeper->hasTargets() ? std::optional(atMost(0)) : std::nullopt;
-        report.add({"idle", sleeper->name() + ": wake-ups" + span, "", wakeUps, none});
-        report.add({"idle", sleeper->name() + ": processor ticks" + span, "", ticks, none});
+    for (const auto& each : all) {
+        each->report(report, " in " + std::to_string(seconds) + " s");
     }
 }
 
@@ -253,14 +317,15 @@ int main(int count, char** arguments) {
         const int rounds = option(options, "--rounds", 3);
         const int seconds = option(options, "--seconds", 30);
         Report report(options);
-        auto programs = peers();
-        programs.insert(programs.begin(), {trayOnly, drawing});
-        measureMemory(report, programs, rounds);
-        programs.insert(programs.begin() + 1, {[] { return usedBefore("annotation", "s"); },
-                                               [] { return usedBefore("the halo", "h"); },
-                                               [] { return usedBefore("the spotlight", "l"); },
-                                               [] { return usedBefore("the lens", "x"); }});
-        countWakeUps(report, programs, rounds, seconds);
+        auto candidates = peers();
+        candidates.insert(candidates.begin(), {{trayOnly}, {drawing}});
+        measureMemory(report, candidates, rounds);
+        candidates.insert(candidates.begin() + 1,
+                          {{[] { return usedBefore("annotation", "s"); }},
+                           {[] { return usedBefore("the halo", "h"); }},
+                           {[] { return usedBefore("the spotlight", "l"); }},
+                           {[] { return usedBefore("the lens", "x"); }}});
+        countWakeUps(report, candidates, rounds, seconds);
         return 0;
     } catch (const std::exception& error) {
         std::cerr << "idle-wakeups: " << error.what() << '\n';

@@ -1,7 +1,7 @@
 // Whether the pen stays as fast as on an empty screen: among ever more finished strokes, right
 // after what changes many of them at once, and over the whiteboard.
 //
-//     pen-among-strokes [--rounds 3] [--strokes 2] [--most 10000] [--rows]
+//     pen-among-strokes [--rounds 3] [--strokes 5] [--most 10000] [--rows]
 
 #include "benchmarks/DrawnPage.h"
 #include "benchmarks/PenMeter.h"
@@ -222,7 +222,7 @@ int main(int count, char** arguments) {
     try {
         const std::vector<std::string> options(arguments + 1, arguments + count);
         const int rounds = option(options, "--rounds", 3);
-        const int strokes = option(options, "--strokes", 2);
+        const int strokes = option(options, "--strokes", 5);
         const int most = option(options, "--most", kFullPage);
         // Pauses of microseconds are kept as such.
         prctl(PR_SET_TIMERSLACK, 1);

@@ -1,7 +1,5 @@
 #include "benchmarks/Projecteur.h"
 
-#include "benchmarks/Peers.h"
-
 #include "desktop/support/Eventually.h"
 
 #include <chrono>
@@ -22,10 +20,6 @@ test::ChildProcess::Environment environmentOn(const test::VirtualDesktop& deskto
 }
 
 } // namespace
-
-bool Projecteur::isInstalled() {
-    return bench::isInstalled("projecteur");
-}
 
 Projecteur::Projecteur(test::VirtualDesktop& desktop)
     : m_environment(environmentOn(desktop))

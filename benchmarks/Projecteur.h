@@ -8,8 +8,6 @@ namespace quillon::bench {
 /// A spotlight of another project, with no device but the pointer.
 class Projecteur {
 public:
-    static bool isInstalled();
-
     /// Ready to be switched on when the constructor returns.
     explicit Projecteur(test::VirtualDesktop& desktop);
     ~Projecteur();
