@@ -213,14 +213,24 @@ TEST_F(Zoom, the_spotlight_is_seen_in_the_lens) {
     startWith(MagnificationFactor::x2);
     ASSERT_TRUE(showsMagnified({300, 300}, 2));
     toggleSpotlight();
-    // The lens came first, so the dark lies over it. It is brought to the front again.
+    // The lens came first, so the dark lies over it.
+    const auto middleOfLens = [](Pixel pointer) {
+        return Pixel{lensAt(pointer).x + 103, lensAt(pointer).y + 97};
+    };
+    ASSERT_TRUE(screen.waitForColor(middleOfLens({300, 300}), {0, 0, 0}));
+    // It is brought to the front again.
     toggleZoom();
     toggleZoom();
+    const auto showsCircleAt = [&](Pixel pointer) {
+        return screen.waitForPixel(middleOfLens(pointer), [&](Rgb seen) {
+            return seen == magnified({103, 97}, pointer, 2);
+        });
+    };
+    // A move that is heard of before the switch would leave the lens where it was.
+    ASSERT_TRUE(showsCircleAt({300, 300}));
     input.moveTo({301, 300});
+    EXPECT_TRUE(showsCircleAt({301, 300}));
     const Pixel lens = lensAt({301, 300});
-    EXPECT_TRUE(screen.waitForPixel({lens.x + 103, lens.y + 97}, [](Rgb seen) {
-        return seen == magnified({103, 97}, {301, 300}, 2);
-    }));
     EXPECT_TRUE(screen.waitForColor({lens.x + 20, lens.y + 100}, {0, 0, 0}));
 }
 
