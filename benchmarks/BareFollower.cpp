@@ -1,6 +1,7 @@
 // The least that following the pointer can be: for each burst of raw motions one question where the
 // pointer is, and then either one small window is moved there, or the circle of a dimmed screen is
-// copied there within the server. What it needs is the floor for any other.
+// copied there within the server. The same when the window has lost its picture. What it needs is
+// the floor for any other.
 //
 //     bare-follower halo|spotlight
 
@@ -53,11 +54,12 @@ xcb_window_t makeWindow(const XConnection& connection, std::uint16_t width, std:
     const xcb_colormap_t colors = xcb_generate_id(connection.get());
     xcb_create_colormap(connection.get(), XCB_COLORMAP_ALLOC_NONE, colors, screen.root, visual);
     const xcb_window_t window = xcb_generate_id(connection.get());
-    const std::uint32_t values[] = {color, 0, 1, colors};
+    // What was drawn may be lost when the compositor takes hold of the window.
+    const std::uint32_t values[] = {color, 0, 1, XCB_EVENT_MASK_EXPOSURE, colors};
     xcb_create_window(connection.get(), 32, window, screen.root, 0, 0, width, height, 0,
                       XCB_WINDOW_CLASS_INPUT_OUTPUT, visual,
                       XCB_CW_BACK_PIXEL | XCB_CW_BORDER_PIXEL | XCB_CW_OVERRIDE_REDIRECT |
-                          XCB_CW_COLORMAP,
+                          XCB_CW_EVENT_MASK | XCB_CW_COLORMAP,
                       values);
     xcb_shape_rectangles(connection.get(), XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT,
                          XCB_CLIP_ORDERING_UNSORTED, window, 0, 0, 0, nullptr);
