@@ -1,9 +1,7 @@
 #include "desktop/qt/ContentWidget.h"
 
-#include "desktop/qt/ControlsWidget.h"
 #include "desktop/qt/QtConversions.h"
 #include "desktop/qt/QtGraphicsContext.h"
-#include "desktop/qt/TextFieldWidget.h"
 #include "desktop/x11/PointerSelection.h"
 #include "desktop/x11/XcbHandles.h"
 #include "raster/PixelPainting.h"
@@ -63,7 +61,8 @@ ContentWidget::ContentWidget(xcb_connection_t* connection, std::function<void()>
           *this, connection,
           [this](const PixelCanvas& canvas, const QRect& rect) { paintContent(canvas, rect); })
     , m_stamped(connection)
-    , m_onPress(std::move(onPress)) {
+    , m_onPress(std::move(onPress))
+    , m_placed(*this, bodyDrag()) {
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_NoSystemBackground);
     setAttribute(Qt::WA_ShowWithoutActivating);
@@ -90,6 +89,19 @@ void ContentWidget::setContentView(const std::shared_ptr<HostingView>& view) {
 void ContentWidget::adoptRootView() {
     m_content->rootView->setUpdateRequest([this] { requestUpdate(); });
     layoutContent();
+}
+
+ControlsWidget::BodyDrag ContentWidget::bodyDrag() {
+    return {
+        .pressed =
+            [this](QPointF place) { m_content->rootView->controlsMouseDown(fromQPointF(place)); },
+        .moved =
+            [this](QPointF place) {
+                m_content->rootView->controlsMouseDragged(fromQPointF(place));
+            },
+        .released =
+            [this](QPointF place) { m_content->rootView->controlsMouseUp(fromQPointF(place)); },
+    };
 }
 
 bool ContentWidget::event(QEvent* event) {
@@ -142,9 +154,7 @@ void ContentWidget::setComposited(bool composited) {
     } else {
         m_inkMask.emplace();
     }
-    if (m_controls) {
-        m_controls->setComposited(composited);
-    }
+    m_placed.setComposited(composited);
     if (isVisible()) {
         repaint();
     }
@@ -196,7 +206,7 @@ void ContentWidget::putOnScreen(const QRegion& region) {
     // The widget system would go through all that could lie in the region. With no child there,
     // and the store painted before in its present size, there is nothing but the content.
     QBackingStore* store = backingStore();
-    if (!store || m_paintedSize != size() || isUnderChild(region)) {
+    if (!store || m_paintedSize != size() || m_placed.standIn(region)) {
         repaint(region);
         return;
     }
@@ -209,13 +219,6 @@ void ContentWidget::putOnScreen(const QRegion& region) {
     painter.end();
     store->endPaint();
     store->flush(region);
-}
-
-bool ContentWidget::isUnderChild(const QRegion& region) const {
-    return std::ranges::any_of(children(), [&](const QObject* child) {
-        const auto* widget = qobject_cast<const QWidget*>(child);
-        return widget && widget->isVisible() && region.intersects(widget->geometry());
-    });
 }
 
 bool ContentWidget::putStamped(QBackingStore& store, const QRegion& region) {
@@ -258,16 +261,8 @@ QImage ContentWidget::painted(const QRect& rect) {
 void ContentWidget::tellOutline() {
     if (m_inkMask && onOutlined) {
         QRegion outline = m_inkMask->region();
-        const auto add = [&](const QRegion& points) {
-            for (const QRect& rect : points) {
-                outline += devicePixels(fromQRectF(rect), devicePixelRatio());
-            }
-        };
-        if (m_controls) {
-            add(m_controls->outline().translated(m_controls->pos()));
-        }
-        if (m_textField) {
-            add(m_textField->geometry());
+        for (const QRect& rect : m_placed.outline()) {
+            outline += devicePixels(fromQRectF(rect), devicePixelRatio());
         }
         onOutlined(outline);
     }
@@ -279,9 +274,7 @@ void ContentWidget::resizeEvent(QResizeEvent* /*event*/) {
 
 void ContentWidget::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton && m_content) {
-        if (m_textField) {
-            m_textField->finishComposing();
-        }
+        m_placed.finishComposing();
         m_content->rootView->mouseDown(fromQPointF(event->position()));
         m_directDrag.delivered(*event);
     }
@@ -311,15 +304,9 @@ void ContentWidget::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void ContentWidget::keyPressEvent(QKeyEvent* event) {
-    // A field that has appeared is about to take the keyboard: the key is meant for it.
-    if (m_textField && !m_textField->hasFocus()) {
-        m_textField->setFocus(Qt::OtherFocusReason);
-        if (m_textField->hasFocus()) {
-            QCoreApplication::sendEvent(m_textField.get(), event);
-            return;
-        }
+    if (!m_placed.takeKey(*event)) {
+        QWidget::keyPressEvent(event);
     }
-    QWidget::keyPressEvent(event);
 }
 
 void ContentWidget::requestUpdate() {
@@ -346,69 +333,11 @@ void ContentWidget::updateContent() {
         return;
     }
     const QRegion region = regionOf(m_content->rootView->takeDamage());
-    updateTextField();
-    updateControls();
+    m_placed.bringUpToDate(*m_content->rootView);
     if (!region.isEmpty() && isVisible()) {
         putOnScreen(region);
     }
     tellOutline();
-}
-
-void ContentWidget::updateTextField() {
-    auto field = m_content->rootView->textField();
-    const bool stood = m_textField != nullptr;
-    if (m_textField && (!field || field->identity != m_textField->identity())) {
-        m_textField.reset();
-    }
-    if (field) {
-        if (m_textField) {
-            m_textField->follow(*std::move(field));
-        } else {
-            m_textField = std::make_unique<TextFieldWidget>(*std::move(field), *this);
-        }
-    }
-    if (onEditingChanged && stood != isEditingText()) {
-        onEditingChanged();
-    }
-}
-
-void ContentWidget::updateControls() {
-    const auto placed = m_content->rootView->placedControls();
-    if (m_controls && (!placed || placed->view.get() != m_controls->view())) {
-        m_controls.reset();
-    }
-    if (placed && !m_controls) {
-        showControls(placed->view);
-    }
-    if (placed) {
-        m_controls->place(toQPointF(placed->center));
-    }
-    tellControlsPlace();
-}
-
-void ContentWidget::tellControlsPlace() {
-    const QRect place =
-        m_controls ? devicePixels(fromQRectF(m_controls->body().translated(m_controls->pos())),
-                                  devicePixelRatio())
-                   : QRect();
-    if (std::exchange(m_controlsPlace, place) != place && onControlsPlaced) {
-        onControlsPlaced(place);
-    }
-}
-
-void ContentWidget::showControls(const std::shared_ptr<ControlsView>& view) {
-    m_controls = ControlsWidget::make(view, *this);
-    m_controls->setComposited(isComposited());
-    m_controls->bodyDrag = {
-        .pressed =
-            [this](QPointF place) { m_content->rootView->controlsMouseDown(fromQPointF(place)); },
-        .moved =
-            [this](QPointF place) {
-                m_content->rootView->controlsMouseDragged(fromQPointF(place));
-            },
-        .released =
-            [this](QPointF place) { m_content->rootView->controlsMouseUp(fromQPointF(place)); },
-    };
 }
 
 void ContentWidget::layoutContent() {

@@ -3,6 +3,7 @@
 #include "desktop/qt/DirectDrag.h"
 #include "desktop/qt/DirectPainting.h"
 #include "desktop/qt/InkMask.h"
+#include "desktop/qt/PlacedChildren.h"
 #include "desktop/qt/StampedContent.h"
 #include "platform/HostingView.h"
 
@@ -16,10 +17,8 @@
 
 namespace quillon::desktop {
 
-class ControlsWidget;
-class TextFieldWidget;
-
-/// Shows a content view: hands it the pointer, paints its damage, and lets its text field stand.
+/// Shows a content view: hands it the pointer, paints its damage, and lets its text field and its
+/// controls stand.
 ///
 /// One update, some time after the view asked for it and after all input that has arrived by then:
 /// 1. the view says where its picture has changed;
@@ -50,16 +49,10 @@ public:
     /// Puts the whole picture on the screen once more.
     void display();
 
-    /// Whether a text field has the keyboard or is about to get it.
-    bool isEditingText() const { return m_textField != nullptr; }
-    /// Called after each change of `isEditingText`.
-    std::function<void()> onEditingChanged;
+    PlacedChildren& placed() { return m_placed; }
+
     /// The toolkit has put the window on top of all others and is about to show it.
     std::function<void()> onAboutToShow;
-
-    /// Called with the place of the controls' body, in device pixels, after each change; empty when
-    /// there are none.
-    std::function<void(const QRect&)> onControlsPlaced;
 
 protected:
     bool event(QEvent* event) override;
@@ -79,6 +72,8 @@ protected:
 
 private:
     void adoptRootView();
+    /// Takes the drags beside the controls to the view.
+    ControlsWidget::BodyDrag bodyDrag();
     void dragTo(QPointF place);
     void requestUpdate();
     void updateIfNeeded();
@@ -86,16 +81,11 @@ private:
     /// update still waits behind all input that has arrived.
     void updateAtOnceIfQuiet();
     void updateContent();
-    void updateTextField();
-    void updateControls();
-    void tellControlsPlace();
-    void showControls(const std::shared_ptr<ControlsView>& view);
     void layoutContent();
     void followScale();
     QRegion regionOf(const Damage& damage) const;
     /// Paints the region and puts it on the screen at once.
     void putOnScreen(const QRegion& region);
-    bool isUnderChild(const QRegion& region) const;
     /// Puts a picture that need not be painted on the screen; false when that cannot be done.
     bool putStamped(QBackingStore& store, const QRegion& region);
     void paintRegion(QPainter& painter, const QRegion& region);
@@ -111,9 +101,7 @@ private:
     std::function<void()> m_onPress;
     std::shared_ptr<HostingView> m_content;
     QColor m_backgroundColor;
-    std::unique_ptr<TextFieldWidget> m_textField;
-    std::unique_ptr<ControlsWidget> m_controls;
-    QRect m_controlsPlace;
+    PlacedChildren m_placed;
     std::optional<InkMask> m_inkMask;
     /// For which the content was laid out, and the store has its pixels.
     CGFloat m_scale = 1;

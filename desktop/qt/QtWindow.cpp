@@ -54,8 +54,8 @@ QtWindow::QtWindow(Window& window, const Surroundings& surroundings)
                      [this] { stayBelowTitledWindow(); });
     // Already before it is seen: a press at once after would meet it.
     m_widget.onAboutToShow = [this] { stayBelowTitledWindow(); };
-    m_widget.onEditingChanged = [this] { giveBackKeyboardIfUnused(); };
-    m_widget.onControlsPlaced = [this](const QRect& place) { followControls(place); };
+    m_widget.placed().onTextFieldChanged = [this] { giveBackKeyboardIfUnused(); };
+    m_widget.placed().onControlsPlaced = [this](const QRect& place) { followControls(place); };
     m_widget.isMereMove = [this](const xcb_configure_notify_event_t& event) {
         return m_window.ignoresMouseEvents() && m_placement.isMereMove(event);
     };
@@ -241,7 +241,7 @@ void QtWindow::takeKeyboard() {
 }
 
 void QtWindow::giveBackKeyboardIfUnused() {
-    if (m_window.ignoresMouseEvents() && !m_widget.isEditingText()) {
+    if (m_window.ignoresMouseEvents() && !m_widget.placed().hasTextField()) {
         m_keyboard.giveBack(nativeWindow());
     }
 }
