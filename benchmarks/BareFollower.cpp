@@ -1,7 +1,7 @@
 // The least that following the pointer can be: for each burst of raw motions one question where the
 // pointer is, and then either one small window is moved there, or the circle of a dimmed screen is
-// copied there within the server. The same when the window has lost its picture. What it needs is
-// the floor for any other.
+// copied there within the server. It does the same when the window has lost its picture. What it
+// needs is the floor for any other.
 //
 //     bare-follower halo|spotlight
 

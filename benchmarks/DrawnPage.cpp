@@ -25,6 +25,10 @@ constexpr int kPointsOfShortStroke = 5;
 /// How far a short stroke goes from one point to the next, at most.
 constexpr int kReach = 12;
 constexpr int kPointsOfEraser = 200;
+/// How the eraser goes up and down, and how far beside its last pass the next one goes.
+constexpr int kStepOfEraser = 37;
+constexpr int kDepthOfEraser = 600;
+constexpr int kShiftOfEraser = 120;
 /// How many strokes are sent before the program has to have drawn them.
 constexpr int kStrokesInFlight = 2000;
 
@@ -115,9 +119,11 @@ void DrawnPage::erase() {
     chooseTool(kEraser);
     std::vector<Pixel> sweep;
     for (int point = 0; point < kPointsOfEraser; ++point) {
-        sweep.push_back(
-            {kLeft + (kRight - kLeft) * point / kPointsOfEraser, kTop + 100 + (point * 37) % 600});
+        const int down =
+            (kStepOfEraser * point + kShiftOfEraser * m_passesOfEraser) % kDepthOfEraser;
+        sweep.push_back({kLeft + (kRight - kLeft) * point / kPointsOfEraser, kTop + 100 + down});
     }
+    ++m_passesOfEraser;
     sendStroke(sweep);
     chooseTool(kPen);
 }

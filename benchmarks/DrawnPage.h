@@ -27,7 +27,8 @@ public:
     /// These return at once, while the program may be about to start.
     void undo();
     void clear();
-    /// Goes over the page with the eraser and takes up the pen again.
+    /// Goes over the page with the eraser and takes up the pen again. Nothing brings back what it
+    /// takes; each of the first five passes goes where none has gone.
     void erase();
 
     /// The whiteboard begins blank.
@@ -50,6 +51,7 @@ private:
     test::Program m_program;
     std::mt19937 m_random{1};
     int m_strokes = 0;
+    int m_passesOfEraser = 0;
 };
 
 } // namespace quillon::bench

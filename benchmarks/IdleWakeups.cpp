@@ -208,7 +208,7 @@ private:
         report.add({"memory", figure, "MB", amounts.megabytes,
                     m_hasTargets ? std::optional(atMost(most)) : std::nullopt});
         if (!peer.empty()) {
-            report.add({"memory", figure + " ÷ quillon-mark", "×", amounts.timesOwn});
+            report.add({"memory", figure + " ÷ quillon-mark, tray only", "×", amounts.timesOwn});
         }
     }
 

@@ -52,7 +52,7 @@ std::vector<std::size_t> processors() {
     return numbers;
 }
 
-Pauses pausesDuring(std::chrono::seconds time) {
+Pauses pausesDuring(Milliseconds time) {
     Pauses pauses;
     const auto start = Clock::now();
     for (auto before = start; before - start < time;) {
@@ -73,19 +73,21 @@ int main(int count, char** arguments) {
         const std::vector<std::string> options(arguments + 1, arguments + count);
         const int rounds = option(options, "--rounds", 5);
         const int seconds = option(options, "--seconds", 2);
+        const Milliseconds time = std::chrono::seconds(seconds);
         const std::vector<std::size_t> all = processors();
         std::vector<double> pausesPerSecond;
         std::vector<double> longest;
         for (int round = 0; round < rounds; ++round) {
             Pauses found;
-            // One after the other: what is to be found is not what they do to each other.
+            // One after the other, for a part of the time each: what is to be found is not what
+            // they do to each other.
             for (const std::size_t processor : all) {
                 stayOn(processor);
-                const Pauses here = pausesDuring(std::chrono::seconds(seconds));
+                const Pauses here = pausesDuring(time / all.size());
                 found.count += here.count;
                 found.longest = std::max(found.longest, here.longest);
             }
-            pausesPerSecond.push_back(found.count / (static_cast<double>(all.size()) * seconds));
+            pausesPerSecond.push_back(static_cast<double>(found.count) / seconds);
             longest.push_back(found.longest.count());
         }
         Report report(options);

@@ -33,10 +33,12 @@ const std::string kEmpty = "empty screen";
 struct Times {
     std::vector<double> middles = {};
     std::vector<double> worsts = {};
+    std::vector<double> firsts = {};
 
-    void add(const Samples& latency) {
-        middles.push_back(latency.percentile(50));
-        worsts.push_back(latency.percentile(99));
+    void add(const PenResult& result) {
+        middles.push_back(result.latency.percentile(50));
+        worsts.push_back(result.latency.percentile(99));
+        firsts.push_back(result.latencyOfFirst.median());
     }
 };
 
@@ -46,32 +48,39 @@ struct Situation {
     /// Of a page on which nothing else happens; otherwise nought.
     int strokes = 0;
     bool hasTarget = true;
+    /// Whether each stroke comes right after an edit, which its first motion is the first to meet.
+    bool isAfterEdit = false;
 };
 
 /// All of them, in the order in which they first came.
 class Situations {
 public:
     /// `empty` was timed on the empty screen at the same time.
-    void add(const Situation& situation, const Samples& latency, const Samples& empty) {
+    void add(const Situation& situation, const PenResult& result, const PenResult& empty) {
         auto found = std::ranges::find(m_all, situation.name,
                                        [](const Timed& each) { return each.situation.name; });
         if (found == m_all.end()) {
             m_all.push_back({situation});
             found = m_all.end() - 1;
         }
-        found->times.add(latency);
+        found->times.add(result);
         found->empty.add(empty);
     }
 
     /// What was timed on the empty screen in the whole of a round.
-    void addEmpty(const Samples& latency) { m_empty.add(latency); }
+    void addEmpty(const PenResult& result) { m_empty.add(result); }
 
     void report(Report& report) const {
         report.add({kSubject, kEmpty + ", p50", "ms", m_empty.middles});
         report.add({kSubject, kEmpty + ", p99", "ms", m_empty.worsts});
+        report.add({kSubject, kEmpty + ", first motion of a stroke", "ms", m_empty.firsts});
         for (const Timed& each : m_all) {
             compare(report, each, "p50", each.times.middles, each.empty.middles);
             compare(report, each, "p99", each.times.worsts, each.empty.worsts);
+            if (each.situation.isAfterEdit) {
+                report.add({kSubject, each.situation.name + ", first motion of a stroke", "ms",
+                            each.times.firsts});
+            }
         }
         reportGrowth(report);
     }
@@ -165,6 +174,10 @@ private:
         return grouped(static_cast<std::size_t>(strokes)) + " strokes";
     }
 
+    static Situation afterEdit(const std::string& edit) {
+        return {.name = "right after " + edit, .isAfterEdit = true};
+    }
+
     void warmUp() {
         PenResult ignored;
         m_empty.measureStroke(ignored);
@@ -173,23 +186,22 @@ private:
 
     void measureOnFullPage() {
         DrawnPage& page = m_full.page();
-        measure({"right after an undo"}, [&page] {
+        measure(afterEdit("an undo"), [&page] {
             page.drawLongStroke();
             page.settle();
             page.undo();
         });
-        measure({"right after an erase"}, [&page] { page.erase(); });
+        measure(afterEdit("an erase"), [&page] { page.erase(); });
         measure(
-            {"right after a clear"}, [&page] { page.clear(); }, [&page] { page.undo(); });
-        measure({"right after the undo of a clear"}, [&page] {
+            afterEdit("a clear"), [&page] { page.clear(); }, [&page] { page.undo(); });
+        measure(afterEdit("the undo of a clear"), [&page] {
             page.clear();
             page.settle();
             page.undo();
         });
     }
 
-    /// Times a few strokes, each right after `before`, and takes them back, and then what `before`
-    /// did.
+    /// Times a few strokes, each right after `before`, and takes each back before `after`.
     void measure(
         const Situation& situation, const std::function<void()>& before = [] {},
         const std::function<void()>& after = [] {}) {
@@ -205,15 +217,16 @@ private:
         if (result.missed + onEmpty.missed > 0) {
             throw std::runtime_error("motions without a picture: " + situation.name);
         }
-        m_situations.add(situation, result.latency, onEmpty.latency);
-        m_onEmpty.add(onEmpty.latency);
+        m_situations.add(situation, result, onEmpty);
+        m_onEmpty.latency.add(onEmpty.latency);
+        m_onEmpty.latencyOfFirst.add(onEmpty.latencyOfFirst);
     }
 
     Situations& m_situations;
     int m_strokes;
     PenOnPage m_full;
     PenOnPage m_empty;
-    Samples m_onEmpty;
+    PenResult m_onEmpty;
 };
 
 } // namespace

@@ -3,6 +3,7 @@
 //     pen-latency [--rounds 5] [--strokes 5] [--width 1920] [--height 1080] [--rows]
 
 #include "benchmarks/ChosenScreen.h"
+#include "benchmarks/Peers.h"
 #include "benchmarks/PenMeter.h"
 #include "benchmarks/Pens.h"
 #include "benchmarks/Report.h"
@@ -16,6 +17,7 @@
 #include <algorithm>
 #include <exception>
 #include <iostream>
+#include <optional>
 #include <stdexcept>
 
 using namespace quillon;
@@ -48,59 +50,98 @@ std::unique_ptr<test::ProbeWindow> layPaper(test::VirtualDesktop& desktop) {
     return std::make_unique<test::ProbeWindow>(desktop.display(), everywhere, kPaper);
 }
 
-/// What came of one program in each round.
-struct Findings {
-    std::vector<double> middles;
-    std::vector<double> worsts;
-    std::vector<double> missed;
+/// What came of one program in one round.
+struct Found {
+    double middle = 0;
+    double worst = 0;
+    double missed = 0;
 };
 
+/// Of one program; nothing for a round in which it failed.
+using Rounds = std::vector<std::optional<Found>>;
+
+Found measured(const PenProgram& program, int strokes,
+               const test::VirtualDesktop::Options& screen) {
+    test::VirtualDesktop desktop(screen);
+    const auto paper = layPaper(desktop);
+    const auto pen = program.start(desktop);
+    pen->switchOn();
+    waitForPaper(desktop);
+    PenMeter meter(desktop);
+    meter.measurePage(*pen, 1);
+    const PenResult result = meter.measurePage(*pen, strokes);
+    return {result.latency.percentile(50), result.latency.percentile(99),
+            static_cast<double>(result.missed)};
+}
+
 /// Each round starts every program once, so that what befalls the machine befalls them all.
-std::vector<Findings> measure(const std::vector<PenProgram>& programs, int rounds, int strokes,
-                              const test::VirtualDesktop::Options& screen) {
-    std::vector<Findings> findings(programs.size());
-    for (int round = 0; round < rounds; ++round) {
+std::vector<Rounds> measure(const std::vector<PenProgram>& programs, int rounds, int strokes,
+                            const test::VirtualDesktop::Options& screen) {
+    std::vector<Rounds> all(programs.size());
+    for (int round = 1; round <= rounds; ++round) {
         for (std::size_t index = 0; index < programs.size(); ++index) {
-            test::VirtualDesktop desktop(screen);
-            const auto paper = layPaper(desktop);
-            const auto pen = programs[index].start(desktop);
-            pen->switchOn();
-            waitForPaper(desktop);
-            PenMeter meter(desktop);
-            meter.measurePage(*pen, 1);
-            const PenResult result = meter.measurePage(*pen, strokes);
-            findings[index].middles.push_back(result.latency.percentile(50));
-            findings[index].worsts.push_back(result.latency.percentile(99));
-            findings[index].missed.push_back(result.missed);
+            const PenProgram& program = programs[index];
+            auto& found = all[index].emplace_back();
+            const auto take = [&] { found = measured(program, strokes, screen); };
+            if (program.role == PenProgram::Role::peer) {
+                measurePeer(program.name, {subjectOn("pen", screen), round}, take);
+            } else {
+                take();
+            }
         }
     }
-    return findings;
+    return all;
+}
+
+std::vector<double> timesOf(const Rounds& rounds, double Found::*time) {
+    std::vector<double> times;
+    for (const auto& found : rounds) {
+        if (found) {
+            times.push_back((*found).*time);
+        }
+    }
+    return times;
+}
+
+/// Of the rounds in which both were measured.
+std::vector<double> ratiosOf(const Rounds& rounds, const Rounds& base, double Found::*time) {
+    std::vector<double> ratios;
+    for (std::size_t round = 0; round < rounds.size(); ++round) {
+        if (rounds[round] && base[round]) {
+            ratios.push_back((*rounds[round]).*time / (*base[round]).*time);
+        }
+    }
+    return ratios;
 }
 
 /// The floor stands first, and the program of this project right after it.
 void print(Report& report, const std::string& subject, const std::vector<PenProgram>& programs,
-           const std::vector<Findings>& all) {
-    const Findings& floor = all.at(0);
-    const Findings& ours = all.at(1);
+           const std::vector<Rounds>& all) {
+    const Rounds& floor = all.at(0);
+    const Rounds& ours = all.at(1);
     for (std::size_t index = 0; index < programs.size(); ++index) {
-        const Findings& found = all[index];
+        const Rounds& rounds = all[index];
         const std::string& name = programs[index].name;
         const auto role = programs[index].role;
-        const auto addTime = [&](const std::string& percentile, auto times) {
+        if (timesOf(rounds, &Found::middle).empty()) {
+            continue;
+        }
+        const auto addTime = [&](const std::string& percentile, double Found::*time) {
             const std::string figure = name + ": motion → pixel, " + percentile;
-            report.add({subject, figure, "ms", found.*times});
+            report.add({subject, figure, "ms", timesOf(rounds, time)});
             if (role == PenProgram::Role::own) {
-                report.add({subject, figure + " ÷ bare pen", "×",
-                            ratios(found.*times, floor.*times), atMost(kAboveFloor)});
+                report.add({subject, figure + " ÷ bare pen", "×", ratiosOf(rounds, floor, time),
+                            atMost(kAboveFloor)});
             } else if (role == PenProgram::Role::peer) {
-                report.add({subject, figure + " ÷ quillon-mark", "×",
-                            ratios(found.*times, ours.*times), atLeast(kAheadOfPeers)});
+                report.add({subject, figure + " ÷ quillon-mark", "×", ratiosOf(rounds, ours, time),
+                            atLeast(kAheadOfPeers)});
             }
         };
-        addTime("p50", &Findings::middles);
-        addTime("p99", &Findings::worsts);
-        if (std::ranges::any_of(found.missed, [](double missed) { return missed > 0; })) {
-            report.add({subject, name + ": motions without a picture", "", found.missed});
+        addTime("p50", &Found::middle);
+        addTime("p99", &Found::worst);
+        const auto missed = timesOf(rounds, &Found::missed);
+        if (std::ranges::any_of(missed, [](double count) { return count > 0; })) {
+            report.add({subject, name + ": motions without a picture", "", missed});
         }
     }
 }

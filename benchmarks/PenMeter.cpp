@@ -79,6 +79,9 @@ void PenMeter::measureStrokeAlong(int baseline, PenResult& result) {
     for (int motion = 1; motion <= kMotionsOfAStroke; ++motion) {
         if (const auto time = timeMotion(placeOn(baseline, motion))) {
             result.latency.add(time->count());
+            if (motion == 1) {
+                result.latencyOfFirst.add(time->count());
+            }
         } else {
             ++result.missed;
         }

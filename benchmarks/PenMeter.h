@@ -16,6 +16,8 @@ namespace quillon::bench {
 struct PenResult {
     /// Milliseconds from the motion event to the first changed pixel on the screen.
     Samples latency;
+    /// The same of the first motion of each stroke alone.
+    Samples latencyOfFirst;
     /// Motions that changed nothing in time.
     int missed = 0;
 };

@@ -51,6 +51,12 @@ long ticksOf(const std::string& statistics) {
     return user + system;
 }
 
+/// The letter of its state. It follows the name, which stands in parentheses and may hold anything.
+char stateOf(pid_t process) {
+    const std::string statistics = contentsOf(folderOf(process) + "/stat");
+    return statistics.at(statistics.rfind(')') + 2);
+}
+
 double secondsOf(pid_t process) {
     clockid_t clock{};
     timespec time{};
@@ -63,6 +69,10 @@ double secondsOf(pid_t process) {
 } // namespace
 
 ProcessUsage ProcessUsage::of(pid_t process) {
+    // One that has ended would seem to rest until its parent asks for it.
+    if (stateOf(process) == 'Z') {
+        throw std::runtime_error("the process has ended");
+    }
     ProcessUsage usage;
     for (const auto& thread : std::filesystem::directory_iterator(folderOf(process) + "/task")) {
         const std::string status = contentsOf(thread.path() / "status");
@@ -90,9 +100,7 @@ ProcessUsage ProcessUsage::since(const ProcessUsage& earlier) const {
 }
 
 bool isAsleep(pid_t process) {
-    const std::string statistics = contentsOf(folderOf(process) + "/stat");
-    // The state follows the name, which stands in parentheses and may hold anything.
-    return statistics.at(statistics.rfind(')') + 2) == 'S';
+    return stateOf(process) == 'S';
 }
 
 ProcessMemory ProcessMemory::of(pid_t process) {

@@ -19,7 +19,7 @@ struct ProcessUsage {
     /// The same to the nanosecond, in seconds.
     double processorSeconds = 0;
 
-    /// Reads /proc; throws when there is no such process.
+    /// Reads /proc; throws when there is no such process, or none any more.
     static ProcessUsage of(pid_t process);
     ProcessUsage since(const ProcessUsage& earlier) const;
 };

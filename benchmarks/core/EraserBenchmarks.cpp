@@ -35,6 +35,7 @@ void sweepShown(benchmark::State& state) {
     }
 }
 BENCHMARK(sweepShown)->Name("eraser sweep and its undo, painted")->Apply(forEachPageButTheLargest);
+BENCHMARK(sweepShown)->Name("eraser sweep and its undo, painted")->Apply(onceOnTheLargestPage);
 
 /// What a motion of the pen waits for, when it comes in the middle of that repaint.
 void sweepSteps(benchmark::State& state) {

@@ -17,7 +17,6 @@
 #include <QWindow>
 #include <QtMath>
 
-#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -206,7 +205,7 @@ void ContentWidget::putOnScreen(const QRegion& region) {
     // The widget system would go through all that could lie in the region. With no child there,
     // and the store painted before in its present size, there is nothing but the content.
     QBackingStore* store = backingStore();
-    if (!store || m_paintedSize != size() || m_placed.standIn(region)) {
+    if (!store || m_paintedSize != size() || m_placed.reachInto(region)) {
         repaint(region);
         return;
     }

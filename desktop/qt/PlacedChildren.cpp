@@ -39,7 +39,7 @@ QRegion PlacedChildren::outline() const {
     return outline;
 }
 
-bool PlacedChildren::standIn(const QRegion& region) const {
+bool PlacedChildren::reachInto(const QRegion& region) const {
     const auto stands = [&region](const QWidget* widget) {
         return widget && widget->isVisible() && region.intersects(widget->geometry());
     };
@@ -77,8 +77,8 @@ void PlacedChildren::updateTextField(ContentView& view) {
             m_textField = std::make_unique<TextFieldWidget>(*std::move(field), m_parent);
         }
     }
-    if (onTextFieldChanged && stood != hasTextField()) {
-        onTextFieldChanged();
+    if (onTextFieldCameOrWent && stood != hasTextField()) {
+        onTextFieldCameOrWent();
     }
 }
 

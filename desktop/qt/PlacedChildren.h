@@ -27,15 +27,15 @@ public:
 
     /// Where nothing can be translucent, the controls are drawn opaque.
     void setComposited(bool composited);
-    /// What is to be seen of them then, in points of the parent.
+    /// What is to be seen of all of them where nothing can be translucent, in points of the parent.
     QRegion outline() const;
     /// Whether one of them is to be seen in the region, in points of the parent.
-    bool standIn(const QRegion& region) const;
+    bool reachInto(const QRegion& region) const;
 
     /// Whether a text field has the keyboard or is about to get it.
     bool hasTextField() const { return m_textField != nullptr; }
     /// Called after each change of `hasTextField`.
-    std::function<void()> onTextFieldChanged;
+    std::function<void()> onTextFieldCameOrWent;
     /// Makes text of what an input method is still composing.
     void finishComposing();
     /// False for a key that is not meant for the text field. One that came before the field had the

@@ -54,7 +54,7 @@ QtWindow::QtWindow(Window& window, const Surroundings& surroundings)
                      [this] { stayBelowTitledWindow(); });
     // Already before it is seen: a press at once after would meet it.
     m_widget.onAboutToShow = [this] { stayBelowTitledWindow(); };
-    m_widget.placed().onTextFieldChanged = [this] { giveBackKeyboardIfUnused(); };
+    m_widget.placed().onTextFieldCameOrWent = [this] { giveBackKeyboardIfUnused(); };
     m_widget.placed().onControlsPlaced = [this](const QRect& place) { followControls(place); };
     m_widget.isMereMove = [this](const xcb_configure_notify_event_t& event) {
         return m_window.ignoresMouseEvents() && m_placement.isMereMove(event);
