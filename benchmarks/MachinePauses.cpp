@@ -1,6 +1,7 @@
-// How often the machine itself stands still. Each processor does nothing but look at the clock, and
-// what lies between two looks is no program's doing. Whatever is timed meets such pauses as well:
-// with ten of them in a second, one motion of a hundred does.
+// How often a processor stands still. Each does nothing but look at the clock, one after the other,
+// and what lies between two looks is taken from it: by the host of a virtual machine, by the
+// kernel, or by another program. Whatever is timed meets such pauses as well, and more of them the
+// more processors it needs at a time.
 //
 //     machine-pauses [--rounds 5] [--seconds 2] [--rows]
 
@@ -10,9 +11,11 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstddef>
 #include <exception>
 #include <iostream>
 #include <stdexcept>
+#include <string>
 #include <vector>
 
 using namespace quillon::bench;

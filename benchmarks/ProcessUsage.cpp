@@ -20,7 +20,7 @@ std::string folderOf(pid_t process) {
 std::string contentsOf(const std::string& file) {
     std::ifstream stream(file);
     if (!stream) {
-        throw std::runtime_error("cannot read " + file);
+        throw std::runtime_error(file + " cannot be read");
     }
     return {std::istreambuf_iterator<char>(stream), {}};
 }
